@@ -1,0 +1,74 @@
+#include "core/startup.h"
+
+#include <QDir>
+
+#include "core/shared_state.h"
+#include "platform/failure.h"
+#include "platform/file_version.h"
+#include "store/transfer_server.h"
+
+namespace padral {
+
+namespace {
+
+constexpr int TextoSinVersion = 331;
+
+QString unir(const std::array<quint16, 4>& v) {
+    return QStringLiteral("%1.%2.%3.%4").arg(v[0]).arg(v[1]).arg(v[2]).arg(v[3]);
+}
+
+}  // namespace
+
+void ObtenerVersionPrograma(EstadoCompartido& estado, const QString& carpeta) {
+    estado.act.ActFile = carpeta + QDir::separator() + QStringLiteral("DPadral.exe");
+    const auto version = LeerVersion(estado.act.ActFile);
+    if (!version) {
+        estado.avisador.Mostrar(
+            {estado.Texto(TextoSinVersion), QString(), Icono::Ninguno, Botones::Aceptar});
+        return;
+    }
+    const auto& v = version->fichero;
+    // The third word of the file version is left out.
+    estado.act.ProgVer1 = QString::number(v[0]);
+    estado.act.ProgVer2 = QString::number(v[1]);
+    estado.act.ProgVer3 = QString::number(v[3]);
+    estado.VersionPrograma =
+        estado.act.ProgVer1 + u'.' + estado.act.ProgVer2 + u'.' + estado.act.ProgVer3;
+    estado.VersionProducto = unir(version->producto);
+}
+
+void ObtenerRutas(EstadoCompartido& estado) {
+    const QString& p = estado.CarpetaPrograma;
+    const auto posicion = p.indexOf(QStringLiteral("cliente"), 0, Qt::CaseInsensitive);
+    // The folder name goes together with the separator before it.
+    const QString base = posicion < 0 ? p : p.left(posicion > 0 ? posicion - 1 : 0);
+    const QChar separador = QDir::separator();
+    estado.RutaTablas = base + separador + QStringLiteral("Tablas") + separador;
+    estado.RutaBDLectura = estado.RutaTablas + QStringLiteral("DPadralLec.mdb");
+    estado.RutaBDModificacion = estado.RutaTablas + QStringLiteral("DPadralMod.mdb");
+}
+
+bool TraspasarDatos(EstadoCompartido& estado) {
+    SvrDPadral::cTraspaso traspaso;
+    traspaso.mdbmod = estado.RutaBDModificacion;
+    traspaso.mdbPath = estado.RutaTablas;
+    try {
+        return traspaso.Traspaso();
+    } catch (const Fallo& fallo) {
+        const QString marca = QStringLiteral("ComprobarBDVersion\n");
+        throw Fallo(marca + fallo.Castellano(), marca + fallo.Euskera());
+    }
+}
+
+void InicializarSesion(EstadoCompartido& estado) {
+    estado.mdi.InicializarContadores();
+    estado.mdi.LeerFechaMinimaMaxima();
+    estado.act.ObtenerURLAct(estado.RutaBDLectura);
+    estado.mdi.LeerIdioma();
+    estado.act.LeerActOnline(estado.RutaBDModificacion);
+    estado.DesplazamientoIdioma =
+        estado.mdi.IDI() == QStringLiteral("E") ? CatalogoTextos::DesplazamientoEuskera : qint16{0};
+    estado.fecha.fecidioma = estado.mdi.IDI();
+}
+
+}  // namespace padral
