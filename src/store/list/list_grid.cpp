@@ -1,0 +1,139 @@
+#include "store/list/list_grid.h"
+
+#include <QHeaderView>
+#include <QKeyEvent>
+#include <QPainter>
+#include <QStyledItemDelegate>
+#include <algorithm>
+#include <numeric>
+
+namespace padral {
+
+namespace {
+
+using Anchos = RejillaDeclaraciones::Anchos;
+
+/// Widths by column, in proportion to each other.
+constexpr Anchos Proporciones{0, 1000, 3050, 750, 1050, 2300, 1000};
+constexpr std::size_t ColumnaElastica = 2;
+constexpr int MargenFila = 10;
+constexpr int MargenCelda = 12;
+
+/// The mark belongs to the row: no cell has a frame of its own; while the grid has the focus,
+/// lines above and below the row say so. Cells that take no criterion are grey.
+class PintorCelda : public QStyledItemDelegate {
+public:
+    using QStyledItemDelegate::QStyledItemDelegate;
+
+    void paint(QPainter* pintor, const QStyleOptionViewItem& opcion,
+               const QModelIndex& indice) const override {
+        QStyleOptionViewItem sinFoco = opcion;
+        sinFoco.state &= ~QStyle::State_HasFocus;
+        const auto* modelo = static_cast<const ModeloDeclaraciones*>(indice.model());
+        if (modelo->EnCriterios() && !(indice.flags() & Qt::ItemIsEnabled))
+            pintor->fillRect(opcion.rect, opcion.palette.color(QPalette::Window));
+        QStyledItemDelegate::paint(pintor, sinFoco, indice);
+        const auto* vista = qobject_cast<const QWidget*>(opcion.widget);
+        if (!(opcion.state & QStyle::State_Selected) || !vista || !vista->hasFocus()) return;
+        pintor->setPen(opcion.palette.color(QPalette::Text));
+        pintor->drawLine(opcion.rect.topLeft(), opcion.rect.topRight());
+        pintor->drawLine(opcion.rect.bottomLeft(), opcion.rect.bottomRight());
+    }
+};
+
+}  // namespace
+
+RejillaDeclaraciones::RejillaDeclaraciones(QWidget* padre) : QTableView(padre) {
+    setItemDelegate(new PintorCelda(this));
+    setSelectionBehavior(SelectRows);
+    setSelectionMode(SingleSelection);
+    setEditTriggers(NoEditTriggers);
+    setTabKeyNavigation(false);
+    setWordWrap(false);
+    setCornerButtonEnabled(false);
+    setHorizontalScrollMode(ScrollPerPixel);
+    // Rows of one height, known before any row is looked at.
+    verticalHeader()->hide();
+    verticalHeader()->setSectionResizeMode(QHeaderView::Fixed);
+    verticalHeader()->setMinimumSectionSize(1);
+    verticalHeader()->setDefaultSectionSize(fontMetrics().height() + MargenFila);
+    auto* cabecera = horizontalHeader();
+    cabecera->setSectionResizeMode(QHeaderView::Fixed);
+    cabecera->setMinimumSectionSize(1);
+    cabecera->setSectionsClickable(true);
+    cabecera->setHighlightSections(false);
+    cabecera->setFixedHeight(fontMetrics().height() + MargenFila + 2);
+}
+
+void RejillaDeclaraciones::PonerMinimos(const Anchos& minimos) {
+    minimos_ = minimos;
+    AjustarColumnas();
+}
+
+int RejillaDeclaraciones::AnchoTexto(const QString& texto) const {
+    return fontMetrics().horizontalAdvance(texto) + MargenCelda;
+}
+
+void RejillaDeclaraciones::AjustarColumnas() {
+    if (!model()) return;
+    const int ancho = viewport()->width();
+    const int total = std::accumulate(Proporciones.begin(), Proporciones.end(), 0);
+    Anchos anchos{};
+    int resto = ancho;
+    for (std::size_t c = 1; c < anchos.size(); ++c) {
+        anchos[c] = std::max(minimos_[c], ancho * Proporciones[c] / total);
+        if (c != ColumnaElastica) resto -= anchos[c];
+    }
+    anchos[ColumnaElastica] = std::max(minimos_[ColumnaElastica], resto);
+    setColumnHidden(0, true);
+    for (std::size_t c = 1; c < anchos.size(); ++c) setColumnWidth(static_cast<int>(c), anchos[c]);
+    Q_EMIT geometriaCambiada();
+}
+
+QRect RejillaDeclaraciones::CabeceraDe(int columna) const {
+    const auto* cabecera = horizontalHeader();
+    return {cabecera->sectionViewportPosition(columna), 0, cabecera->sectionSize(columna),
+            cabecera->height()};
+}
+
+bool RejillaDeclaraciones::enCriterios() const {
+    return static_cast<const ModeloDeclaraciones*>(model())->EnCriterios();
+}
+
+void RejillaDeclaraciones::irAFila(int fila) {
+    const QModelIndex destino = model()->index(fila, std::max(1, currentIndex().column()));
+    if (destino.flags() & Qt::ItemIsSelectable) setCurrentIndex(destino);
+}
+
+void RejillaDeclaraciones::keyPressEvent(QKeyEvent* evento) {
+    const int tecla = evento->key();
+    if (tecla == Qt::Key_Return || tecla == Qt::Key_Enter)
+        Q_EMIT intro();
+    else if (enCriterios() && (tecla == Qt::Key_Left || tecla == Qt::Key_Right))
+        Q_EMIT pasoDeColumna(tecla == Qt::Key_Left ? -1 : 1);
+    else if (tecla == Qt::Key_Home)
+        irAFila(0);
+    else if (tecla == Qt::Key_End)
+        irAFila(model()->rowCount() - 1);
+    else
+        QTableView::keyPressEvent(evento);
+}
+
+void RejillaDeclaraciones::resizeEvent(QResizeEvent* evento) {
+    QTableView::resizeEvent(evento);
+    AjustarColumnas();
+    // The selected row stays in view when the list shows for the first time, too.
+    if (currentIndex().isValid()) scrollTo(currentIndex());
+}
+
+void RejillaDeclaraciones::moveEvent(QMoveEvent* evento) {
+    QTableView::moveEvent(evento);
+    Q_EMIT geometriaCambiada();
+}
+
+void RejillaDeclaraciones::scrollContentsBy(int dx, int dy) {
+    QTableView::scrollContentsBy(dx, dy);
+    if (dx != 0) Q_EMIT geometriaCambiada();
+}
+
+}  // namespace padral
