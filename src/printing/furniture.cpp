@@ -1,0 +1,111 @@
+#include "printing/furniture.h"
+
+#include "core/shared_state.h"
+#include "declaration/general_data.h"
+#include "printing/pictures.h"
+#include "printing/primitives.h"
+
+namespace padral {
+namespace {
+
+constexpr Mm AltoCabecera = 30;
+constexpr Mm XReferencia = 171.5F;
+constexpr Mm AnchoReferencia = 21.5F;
+
+constexpr Raya rayasCabecera[] = {
+    {XTitulos, 0, XTitulos, AltoCabecera},
+    {XReferencia, 0, XReferencia, AltoCabecera},
+    {XReferencia, 17, AnchoImpreso, 17},
+    {XReferencia, 25, AnchoImpreso, 25},
+};
+
+constexpr Rotulo rotulosReferencia[] = {
+    EnAncho(AnchoReferencia, Eus(XReferencia, 18, u"Erreferentzia zk")),
+    EnAncho(AnchoReferencia, Cas(XReferencia, 21.5F, u"Nº Referencia")),
+};
+
+constexpr Rotulo rotulosAutoridad[] = {
+    Cas(20, 10, u"Kelmariako Foru Aldundia"),
+    Cas(20, 13, u"Diputación Foral de Kelmaria"),
+};
+
+constexpr Raya rayasIdentificacion[] = {
+    {0, 4, AnchoImpreso, 4},
+    {0, 12, AnchoImpreso, 12},
+    {39, 4, 39, 12},
+};
+
+constexpr Rotulo tituloIdentificacion[] = {
+    EnAncho(AnchoImpreso, Par(0, 0.5F, u"IDENTIFIKAZIO DATUAK", u"DATOS IDENTIFICATIVOS")),
+};
+
+constexpr Casilla casillasIdentificacion[] = {
+    {.numero = u"1", .lugarNumero = {2, 5.5F}, .rotulos = {Par(5.5F, 5.5F, u"IFZ", u"N.I.F.")}},
+    {.numero = u"2",
+     .lugarNumero = {42, 5.5F},
+     .rotulos = {Par(45, 5.5F, u"Deiturak eta izena, edo sozietatearen izena",
+                     u"Apellidos y Nombre, o Razón Social")}},
+};
+
+/// Languages of the common server when the form is printed.
+constexpr int IdiomaEuskera = 1000;
+constexpr int IdiomaCastellano = 0;
+
+QString NombreDepartamento(EstadoCompartido& estado, int idioma) {
+    estado.ObjComun = std::make_unique<SvrBaseComunLib::cMiscelaneos>();
+    estado.ObjComun->Idioma = idioma;
+    const QString nombre = estado.ObjComun->HaciendaFiscalidad();
+    estado.ObjComun.reset();
+    return nombre;
+}
+
+void EscribirDepartamento(const Hoja& hoja, Mm x, Mm y) {
+    Impresora& p = hoja.impresora;
+    p.estado.negrita = false;
+    EscribirTexto(p, x + 10, y + 19, NombreDepartamento(hoja.estado, IdiomaEuskera));
+    EscribirTexto(p, x + 10, y + 21.5F, NombreDepartamento(hoja.estado, IdiomaCastellano));
+    EscribirTexto(p, x + 10, y + 25, SvrBaseComunLib::DireccionWebAutoridad());
+}
+
+void EscribirNumeroImpreso(Impresora& p, Mm x, Mm y) {
+    PonerFuente(p, FuenteRomana);
+    p.estado.cuerpo = 32;
+    EscribirCentradoEnAncho(p, x + XReferencia, y + 3, AnchoReferencia, QStringLiteral("417"));
+    PonerFuente(p, FuenteEstrecha);
+    DibujarRotulos(p, x, y, {8, false, rotulosReferencia});
+}
+
+}  // namespace
+
+void PonerFuente(Impresora& p, const char16_t* nombre) {
+    p.estado.fuente = QString::fromUtf16(nombre);
+}
+
+void DibujarCabeceraComun(const Hoja& hoja, Mm x, Mm y) {
+    Impresora& p = hoja.impresora;
+    DibujarMarco(p, x, y, x + AnchoImpreso, y + AltoCabecera);
+    DibujarRayas(p, x, y, rayasCabecera);
+    p.PintarImagen(QString::fromUtf16(ImagenEmblema), {x + 2, y + 3}, Tamano{14, 14});
+    PonerFuente(p, FuenteEstrecha);
+    DibujarRotulos(p, x, y, {7, true, rotulosAutoridad});
+    EscribirDepartamento(hoja, x, y);
+    EscribirNumeroImpreso(p, x, y);
+}
+
+void DibujarIdentificacion(const Hoja& hoja, Mm x, Mm y) {
+    Impresora& p = hoja.impresora;
+    DibujarRayas(p, x, y, rayasIdentificacion);
+    DibujarRotulos(p, x, y, {8, true, tituloIdentificacion});
+    DibujarCasillas(p, x, y, casillasIdentificacion);
+}
+
+void RellenarIdentificacion(const Hoja& hoja, Mm x, Mm y) {
+    Impresora& p = hoja.impresora;
+    const cDatosGenerales& datos = hoja.registros.generales;
+    PonerLetra(p, 10, true);
+    EscribirTexto(p, x + 2, y + 9, datos.DNI);
+    EscribirTexto(p, x + 41, y + 9, datos.NOMBRE);
+    p.estado.cuerpo = 8;
+}
+
+}  // namespace padral

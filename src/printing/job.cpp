@@ -1,0 +1,72 @@
+#include "printing/job.h"
+
+#include "declaration/general_data.h"
+#include "printing/page1.h"
+#include "printing/primitives.h"
+
+namespace padral {
+namespace {
+
+struct Copia {
+    const char16_t* tipo;
+    const char16_t* imagen;
+};
+// The form has five copies; the dialog asks for the first three only.
+constexpr Copia copias[] = {
+    {u"AD", u"Administracion"}, {u"IT", u"Interesado"},  {u"BO", u"Borrador"},
+    {u"BA", u"Banco"},          {u"IF", u"Informatica"},
+};
+
+/// A page, or a run of pages, of a copy: when it prints and with which origin it is entered.
+struct EntradaPagina {
+    bool (*seImprime)(const RegistrosImpresos&, const QString& tipoCopia);
+    Mm x, y;
+    void (*imprimir)(const Hoja&, Mm& x, Mm& y, const QString& imagen);
+};
+
+bool Siempre(const RegistrosImpresos& /*registros*/, const QString& /*tipoCopia*/) { return true; }
+
+// In the order of the copy.
+constexpr EntradaPagina paginas[] = {
+    {Siempre, 0.1F, 38.5F, ImprimirPaginasPrincipales},
+};
+
+QString TituloDocumento(const RegistrosImpresos& registros, const QString& tipoCopia) {
+    return QStringLiteral("417-%1-%2").arg(registros.generales.DNI, tipoCopia);
+}
+
+}  // namespace
+
+bool ValidarCopias(const OpcionesImpresion& opciones) {
+    return opciones.borrador || opciones.copiaAdministracion || opciones.copiaInteresado;
+}
+
+QStringList CopiasPedidas(const OpcionesImpresion& opciones) {
+    if (opciones.borrador) return {QStringLiteral("BO")};
+    QStringList pedidas;
+    if (opciones.copiaAdministracion) pedidas << QStringLiteral("AD");
+    if (opciones.copiaInteresado) pedidas << QStringLiteral("IT");
+    return pedidas;
+}
+
+QString ImagenDeCopia(const QString& TipoCopia) {
+    for (const Copia& copia : copias)
+        if (TipoCopia == QStringView(copia.tipo)) return QString::fromUtf16(copia.imagen);
+    return {};
+}
+
+void Imprimir::ImprimirDeclaracion(const QString& TipoCopia) {
+    const auto impresora = fabrica_.Abrir(TituloDocumento(registros_, TipoCopia));
+    impresora->estado.pluma = PlumaFina;
+    const QString imagen = ImagenDeCopia(TipoCopia);
+    const Hoja hoja = {*impresora, estado_, registros_};
+    for (const EntradaPagina& pagina : paginas) {
+        if (!pagina.seImprime(registros_, TipoCopia)) continue;
+        Mm x = pagina.x;
+        Mm y = pagina.y;
+        pagina.imprimir(hoja, x, y, imagen);
+    }
+    impresora->Cerrar();
+}
+
+}  // namespace padral

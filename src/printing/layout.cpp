@@ -1,0 +1,78 @@
+#include "printing/layout.h"
+
+#include "printing/primitives.h"
+
+namespace padral {
+namespace {
+
+constexpr float CuerpoCasillas = 8;
+
+QString Cadena(const char16_t* texto) { return QString::fromUtf16(texto); }
+
+void EscribirSuelto(Impresora& p, Mm x, Mm y, const Rotulo& r) {
+    p.estado.cursiva = r.forma == Forma::Euskera;
+    if (r.ancho > 0)
+        EscribirCentradoEnAncho(p, x, y, r.ancho, Cadena(r.texto));
+    else
+        EscribirTexto(p, x, y, Cadena(r.texto));
+    p.estado.cursiva = false;
+}
+
+void EscribirRotulo(Impresora& p, Mm x, Mm y, const Rotulo& r) {
+    if (r.forma == Forma::Ninguna) return;
+    if (r.forma != Forma::Par)
+        EscribirSuelto(p, x + r.x, y + r.y, r);
+    else if (r.ancho > 0)
+        EscribirBilingueCentradoEnAncho(p, x + r.x, y + r.y, r.ancho, Cadena(r.texto),
+                                        Cadena(r.segundo));
+    else
+        EscribirBilingue(p, x + r.x, y + r.y, Cadena(r.texto), Cadena(r.segundo));
+}
+
+void DibujarNumero(Impresora& p, Mm x, Mm y, const Casilla& c) {
+    PonerLetra(p, CuerpoCasillas, true);
+    const Punto en = {x + c.lugarNumero.x, y + c.lugarNumero.y};
+    if (c.numeroADerecha)
+        EscribirDerecha(p, en.x, en.y, Cadena(c.numero));
+    else
+        EscribirTexto(p, en.x, en.y, Cadena(c.numero));
+}
+
+}  // namespace
+
+void PonerLetra(Impresora& p, float cuerpo, bool negrita) {
+    p.estado.cuerpo = cuerpo;
+    p.estado.negrita = negrita;
+}
+
+Valor Marca(bool condicion) { return condicion ? Valor(QStringLiteral("X")) : std::nullopt; }
+
+void DibujarRayas(Impresora& p, Mm x, Mm y, std::span<const Raya> rayas) {
+    for (const Raya& r : rayas) DibujarLinea(p, x + r.x1, y + r.y1, x + r.x2, y + r.y2);
+}
+
+void DibujarRotulos(Impresora& p, Mm x, Mm y, const GrupoRotulos& grupo) {
+    PonerLetra(p, grupo.cuerpo, grupo.negrita);
+    for (const Rotulo& r : grupo.rotulos) EscribirRotulo(p, x, y, r);
+}
+
+void DibujarCasillas(Impresora& p, Mm x, Mm y, std::span<const Casilla> casillas) {
+    for (const Casilla& c : casillas) {
+        DibujarNumero(p, x, y, c);
+        DibujarRotulos(p, x, y, {c.cuerpo, false, c.rotulos});
+        const Marco& m = c.marco;
+        if (m.Hay()) DibujarMarco(p, x + m.x1, y + m.y1, x + m.x2, y + m.y2);
+    }
+}
+
+void RellenarCasillas(const Hoja& hoja, Mm x, Mm y, std::span<const Casilla> casillas) {
+    Impresora& p = hoja.impresora;
+    PonerLetra(p, CuerpoCasillas, true);
+    for (const Casilla& c : casillas) {
+        if (c.valor == nullptr) continue;
+        if (const Valor valor = c.valor(hoja))
+            EscribirTexto(p, x + c.lugarValor.x, y + c.lugarValor.y, *valor);
+    }
+}
+
+}  // namespace padral

@@ -1,0 +1,20 @@
+#pragma once
+// Where printed documents go, as the print dialog sees it.
+
+#include <QStringList>
+
+#include "printing/printer_port.h"
+
+class QWidget;
+
+namespace padral {
+
+class DestinoImpresion : public FabricaImpresora {
+public:
+    /// Lets the user choose the printer for the documents that follow.
+    virtual void Elegir(QWidget* padre) = 0;
+    /// Full names of the PDF files made since the last call.
+    virtual QStringList TomarFicheros() = 0;
+};
+
+}  // namespace padral
