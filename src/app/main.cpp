@@ -1,0 +1,35 @@
+// The program itself: makes the real ports and starts.
+
+#include "app/application.h"
+#include "app/program.h"
+#include "platform/program_folder.h"
+#include "printing/ui/printer_factory.h"
+#include "ui/message_box.h"
+
+int main(int argc, char** argv) {
+    using namespace padral;
+    Aplicacion aplicacion(argc, argv);
+    AvisadorPantalla avisador;
+    RelojSistema reloj;
+    FabricaQt impresora(reloj);
+    aplicacion.alFallar = [&avisador](const QString& castellano, const QString& euskera) {
+        avisador.Mostrar({castellano + QStringLiteral("\n\n") + euskera, QStringLiteral("Padral"),
+                          Icono::Error, Botones::Aceptar});
+    };
+    int estado = 0;
+    aplicacion.Proteger([&] {
+        Programa programa({avisador, reloj, impresora}, CarpetaEjecutable(), CarpetaPrograma());
+        avisador.finEspera = [&] { programa.ventana().CursorEspera(false); };
+        avisador.esEuskera = [&] { return programa.estado().DesplazamientoIdioma != 0; };
+        aplicacion.alFallar = [&](const QString& castellano, const QString& euskera) {
+            MostrarFallo(programa.estado(), programa.IdiomaConocido(), castellano, euskera);
+        };
+        // Inside the handler: the objects that show a failure still live when it is caught.
+        bool seguir = false;
+        aplicacion.Proteger([&] { seguir = programa.Iniciar(); });
+        if (!seguir) return;
+        aplicacion.Proteger([&] { programa.MostrarVentana(); });
+        estado = QApplication::exec();
+    });
+    return estado;
+}

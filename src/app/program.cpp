@@ -1,0 +1,86 @@
+#include "app/program.h"
+
+#include "core/help/help_window.h"
+#include "core/startup.h"
+#include "declaration/screen/frm_dat_gen.h"
+#include "online/frm_about.h"
+#include "online/frm_idioma.h"
+#include "online/frm_inicio.h"
+#include "platform/instance_mark.h"
+#include "printing/ui/frm_im_of.h"
+#include "store/list/frm_dec_lista.h"
+#include "ui/qt_language.h"
+
+namespace padral {
+
+Programa::Programa(const Puertos& puertos, const QString& carpetaEjecutable,
+                   const QString& carpetaPrograma)
+    : puertos_(puertos),
+      carpetaEjecutable_(carpetaEjecutable),
+      estado_(puertos.avisador, puertos.reloj),
+      lista_(estado_) {
+    estado_.CarpetaPrograma = carpetaPrograma;
+    OrdenesDeclaraciones ordenes;
+    ordenes.empezar = [this](const QString& modo, const QString& entrada) {
+        declaracion_->Modo = modo;
+        declaracion_->csde = 0;
+        if (!entrada.isEmpty()) lista_.ENTRADA = entrada;
+    };
+    ordenes.hayModificaciones = [this] { return declaracion_->HayModificaciones(); };
+    ventana_ = std::make_unique<MDIPadral>(estado_, guardia_, std::move(ordenes));
+    declaracion_ = std::make_unique<cDeclaraciones>(estado_, *ventana_, lista_);
+    registrarPantallas();
+}
+
+Programa::~Programa() {
+    // The screens hold references to the declaration.
+    ventana_.reset();
+}
+
+bool Programa::Iniciar() {
+    MarcarInstancia();
+    ObtenerVersionPrograma(estado_, carpetaEjecutable_);
+    ObtenerRutas(estado_);
+    if (TraspasarDatos(estado_)) return false;
+    InicializarSesion(estado_);
+    idiomaConocido_ = true;
+    ponerIdioma();
+    return true;
+}
+
+void Programa::MostrarVentana() {
+    {
+        frmInicio inicio(estado_);
+        inicio.Cargar();
+    }
+    ventana_->show();
+    ventana_->activateWindow();
+}
+
+void Programa::ponerIdioma() {
+    InstalarTraduccionQt(estado_.mdi.IDI());
+    ventana_->Anadir_captions();
+}
+
+void Programa::registrarPantallas() {
+    const Contexto contexto{estado_, *ventana_, guardia_};
+    ventana_->Registrar(QStringLiteral("FrmDatGen"), [this, contexto]() -> QWidget* {
+        return new FrmDatGen(contexto, *declaracion_, lista_);
+    });
+    ventana_->Registrar(QStringLiteral("FrmDecLista"), [this, contexto]() -> QWidget* {
+        return new FrmDecLista(contexto, *declaracion_, lista_);
+    });
+    ventana_->Registrar(QStringLiteral("FrmImOf"), [this, contexto]() -> QWidget* {
+        return new FrmImOf(contexto, *declaracion_, puertos_.impresora);
+    });
+    ventana_->primerArranque = [this] {
+        FrmIdioma idioma(estado_, [this] { ponerIdioma(); }, ventana_.get());
+        idioma.exec();
+    };
+    ventana_->mostrarAcercaDe = [this] { frmAbout(estado_, ventana_.get()).exec(); };
+    ventana_->mostrarAyuda = [this](const QString& tema) {
+        MostrarAyuda(estado_, tema, ventana_.get());
+    };
+}
+
+}  // namespace padral

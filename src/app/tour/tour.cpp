@@ -1,0 +1,219 @@
+// The tour: the real program, offscreen, driven through its real widgets. It enters declarations,
+// saves, finds, opens and prints them, and leaves a picture of every screen and the printed PDF.
+
+#include <QDir>
+#include <QFile>
+#include <QTextStream>
+
+#include "app/application.h"
+#include "app/program.h"
+#include "app/tour/guide.h"
+#include "platform/program_folder.h"
+#include "printing/ui/printer_factory.h"
+#include "ui/message_box.h"
+
+namespace padral {
+
+namespace {
+
+/// The splash shows as long as it takes to photograph it.
+class RelojVisita : public RelojSistema {
+public:
+    std::function<void()> alEsperar;
+    void Esperar(int) override {
+        RelojSistema::Esperar(50);
+        if (alEsperar) alEsperar();
+    }
+};
+
+/// A program folder of its own, so that the user's declarations stay out of it.
+QString carpetaNueva(const QString& salida, const QString& nombre) {
+    const QString carpeta = salida + QStringLiteral("/data-") + nombre;
+    QDir(carpeta).removeRecursively();
+    const QString tablas = carpeta + QStringLiteral("/Tablas");
+    QDir().mkpath(tablas);
+    const QDir origen(CarpetaEjecutable() + QStringLiteral("/../data"));
+    for (const QString& fichero : {QStringLiteral("DPadralLec.mdb"), QStringLiteral("DPadralMod.mdb")})
+        if (!QFile::copy(origen.filePath(fichero), tablas + u'/' + fichero))
+            throw GuiaPerdida("cannot copy " + fichero.toStdString());
+    return carpeta;
+}
+
+/// One run of the program in one language.
+class Visita {
+public:
+    Visita(const QString& salida, const QString& idioma) : salida_(salida), idioma_(idioma) {
+        impresora_.UsarPdf(salida);
+        programa_ = std::make_unique<Programa>(
+            Puertos{avisador_, reloj_, impresora_}, CarpetaEjecutable(),
+            carpetaNueva(salida, idioma));
+        avisador_.finEspera = [this] { programa_->ventana().CursorEspera(false); };
+        avisador_.esEuskera = [this] { return programa_->estado().DesplazamientoIdioma != 0; };
+    }
+
+    void Recorrer();
+
+private:
+    void arrancar();
+    void declararEmpresa();
+    void declararPersona();
+    void buscar();
+    void imprimir();
+    void foto(const QString& nombre) { guia_->Foto(idioma_ + u'-' + nombre); }
+    void nueva();
+    void identificar(const QString& nif, const QString& nombre, const QString& referencia,
+                     const QString& fecha);
+    QString fecha(const QString& dia, const QString& mes, const QString& anyo) const {
+        return idioma_ == QStringLiteral("es") ? dia + mes + anyo : anyo + mes + dia;
+    }
+
+    QString salida_, idioma_;
+    AvisadorPantalla avisador_;
+    RelojVisita reloj_;
+    FabricaQt impresora_{reloj_};
+    std::unique_ptr<Programa> programa_;
+    std::unique_ptr<Guia> guia_;
+};
+
+void Visita::arrancar() {
+    guia_ = std::make_unique<Guia>(&programa_->ventana(), salida_);
+    if (!programa_->Iniciar()) throw GuiaPerdida("the start ended the program");
+    reloj_.alEsperar = [this] {
+        for (QWidget* w : QApplication::topLevelWidgets())
+            if (w->objectName() == QStringLiteral("frmInicio"))
+                w->grab().save(salida_ + u'/' + idioma_ + QStringLiteral("-01-splash.png"));
+    };
+    guia_->AlDialogo(QStringLiteral("FrmIdioma"), [this](QWidget* dialogo) {
+        foto(QStringLiteral("02-language"));
+        const bool castellano = idioma_ == QStringLiteral("es");
+        guia_->Pulsar(castellano ? QStringLiteral("cmdcastellano") : QStringLiteral("cmdeuskera"));
+        Q_UNUSED(dialogo)
+    });
+    programa_->ventana().resize(1280, 720);
+    programa_->MostrarVentana();
+    for (int i = 0; i < 50 && programa_->estado().act.ActOnline < 0; ++i) guia_->Respirar();
+    guia_->TomarVentana();
+    foto(QStringLiteral("03-main-window"));
+}
+
+void Visita::nueva() { guia_->Ordenar(QStringLiteral("Nueva")); }
+
+void Visita::identificar(const QString& nif, const QString& nombre, const QString& referencia,
+                         const QString& fechaDeclaracion) {
+    guia_->Escribir(QStringLiteral("txtDNI"), nif);
+    guia_->Escribir(QStringLiteral("txtNombre"), nombre);
+    guia_->Escribir(QStringLiteral("txtNumeroArchivo"), referencia);
+    guia_->Escribir(QStringLiteral("mskFechaDeclaracion"), fechaDeclaracion);
+}
+
+void Visita::declararEmpresa() {
+    nueva();
+    foto(QStringLiteral("04-general-data-new"));
+    identificar(QStringLiteral("A12345674"), QStringLiteral("Talleres Ibaialde, S.A."),
+                QStringLiteral("2026/0417"), fecha(QStringLiteral("21"), QStringLiteral("11"),
+                                                   QStringLiteral("2026")));
+    guia_->Pulsar(QStringLiteral("chkDeclaracionModificacion"));
+    guia_->Escribir(QStringLiteral("mskFechaModificacion"),
+                    fecha(QStringLiteral("02"), QStringLiteral("11"), QStringLiteral("2026")));
+    guia_->Pulsar(QStringLiteral("chkPorDefinitivo"));
+    guia_->Escribir(QStringLiteral("mskFechaInscrip"),
+                    fecha(QStringLiteral("15"), QStringLiteral("10"), QStringLiteral("2026")));
+    guia_->Pulsar(QStringLiteral("chkApartado2"));
+    guia_->ElegirPestana(QStringLiteral("Pestaña"), 1);
+    guia_->ElegirEnCombo(QStringLiteral("cmbMotivoCambio"), QStringLiteral("20"));
+    guia_->Escribir(QStringLiteral("txtNombreAnterior"), QStringLiteral("Talleres Mendi, S.A."));
+    foto(QStringLiteral("05-change-of-identity"));
+    guia_->ResponderSiguiente(0, idioma_ + QStringLiteral("-06-rule"));
+    guia_->Pulsar(QStringLiteral("cmdAceptar"));
+    guia_->Escribir(QStringLiteral("txtDNIRepresentante"), QStringLiteral("12345678Z"));
+    guia_->Escribir(QStringLiteral("txtNombreRepresentante"), QStringLiteral("Agirre Soto, Miren"));
+    guia_->Escribir(QStringLiteral("txtFirmaEnCalidadDe"), QStringLiteral("Administradora"));
+    guia_->ElegirPestana(QStringLiteral("Pestaña"), 0);
+    foto(QStringLiteral("07-general-data-filled"));
+    guia_->Pulsar(QStringLiteral("cmdAceptar"));
+}
+
+void Visita::declararPersona() {
+    nueva();
+    identificar(QStringLiteral("X1234567L"), QStringLiteral("Ñuñez Zubia, Ane"),
+                QStringLiteral("2026/0418"), fecha(QStringLiteral("21"), QStringLiteral("11"),
+                                                   QStringLiteral("2026")));
+    guia_->Pulsar(QStringLiteral("chkDeclaracionInicio"));
+    guia_->Pulsar(QStringLiteral("chkElMismo"));
+    guia_->Pulsar(QStringLiteral("cmdAceptar"));
+}
+
+void Visita::buscar() {
+    guia_->Ordenar(QStringLiteral("Abrir"));
+    foto(QStringLiteral("08-list"));
+    guia_->Pulsar(QStringLiteral("cmdBuscar"));
+    guia_->PulsarCelda(QStringLiteral("flxDeclaraciones"), 0, 2);
+    guia_->Teclear(QStringLiteral("talleres"));
+    foto(QStringLiteral("09-list-search"));
+    guia_->Pulsar(QStringLiteral("cmdBuscar"));
+    foto(QStringLiteral("10-list-result"));
+}
+
+void Visita::imprimir() {
+    guia_->Pulsar(QStringLiteral("cmdVerDeclaracion"));
+    foto(QStringLiteral("11-opened"));
+    guia_->Pulsar(QStringLiteral("cmdImprimir"));
+    foto(QStringLiteral("12-print-dialog"));
+    guia_->ResponderSiguiente(0, idioma_ + QStringLiteral("-13-printed"));
+    guia_->Pulsar(QStringLiteral("btnAceptar"));
+    guia_->Pulsar(QStringLiteral("cmdCancelar"));
+}
+
+void Visita::Recorrer() {
+    arrancar();
+    try {
+        declararEmpresa();
+        declararPersona();
+        buscar();
+        imprimir();
+    } catch (const GuiaPerdida& e) {
+        foto(QStringLiteral("99-stopped"));
+        throw GuiaPerdida(e.what() + std::string("; messages so far: ") +
+                          guia_->Mensajes().join(QStringLiteral(" | ")).toStdString());
+    }
+    programa_->ventana().hide();
+}
+
+int recorrer(const QString& salida) {
+    QTextStream consola(stdout);
+    QDir().mkpath(salida);
+    // What an earlier tour left would be taken for the work of this one.
+    const QStringList viejos = {QStringLiteral("*.png"), QStringLiteral("*.pdf")};
+    for (const QString& viejo : QDir(salida).entryList(viejos, QDir::Files))
+        QFile::remove(salida + u'/' + viejo);
+    try {
+        for (const QString& idioma : {QStringLiteral("es"), QStringLiteral("eu")})
+            Visita(salida, idioma).Recorrer();
+    } catch (const GuiaPerdida& e) {
+        consola << "The tour stopped: " << e.what() << Qt::endl;
+        return 1;
+    }
+    const auto pdf = QDir(salida).entryList({QStringLiteral("*.pdf")}, QDir::Files, QDir::Name);
+    const auto fotos = QDir(salida).entryList({QStringLiteral("*.png")}, QDir::Files);
+    consola << "The tour is over: " << fotos.size() << " pictures of the screens (*.png) and "
+            << pdf.size() << " printed documents (*.pdf) are in" << Qt::endl
+            << "  " << QDir(salida).absolutePath() << Qt::endl;
+    for (const QString& fichero : pdf) consola << "  " << fichero << Qt::endl;
+    return pdf.isEmpty() || fotos.isEmpty() ? 1 : 0;
+}
+
+}  // namespace
+
+}  // namespace padral
+
+int main(int argc, char** argv) {
+    padral::Aplicacion aplicacion(argc, argv);
+    aplicacion.alFallar = [](const QString& castellano, const QString&) {
+        QTextStream(stderr) << castellano << Qt::endl;
+    };
+    const auto argumentos = QCoreApplication::arguments();
+    int estado = 1;
+    aplicacion.Proteger(
+        [&] { estado = padral::recorrer(argumentos.value(1, QStringLiteral("out"))); });
+    return estado;
+}
