@@ -31,7 +31,7 @@ QByteArray buscarBloque(const QByteArray& contenido) {
     const QByteArrayMatcher buscador(marca());
     for (qsizetype p = buscador.indexIn(contenido); p >= 0;
          p = buscador.indexIn(contenido, p + 1)) {
-        const QByteArray bloque =
+        QByteArray bloque =
             contenido.mid(p + qsizetype{MarcaVersionInvertida.size()}, TamanoBloque);
         if (bloque.size() == TamanoBloque && campo(bloque, 0) == Firma) return bloque;
     }

@@ -11,10 +11,7 @@
 #include <vector>
 
 #include "core/record_table.h"
-
-inline void PrintTo(const QString& texto, std::ostream* salida) {
-    *salida << '"' << texto.toStdString() << '"';
-}
+#include "support/print_text.h"
 
 namespace padral::pruebas {
 

@@ -1,0 +1,68 @@
+#include "store/transfer_server.h"
+
+#include <gtest/gtest.h>
+
+#include <QDir>
+#include <QFile>
+
+#include "store/collation.h"
+#include "store/store_files.h"
+
+namespace padral::test {
+namespace {
+
+using SvrDPadral::ListaDeclaraciones;
+
+struct Transfer : StoreFiles {
+    bool Run() const {
+        SvrDPadral::cTraspaso server;
+        server.mdbmod = mod;
+        server.mdbPath = QFileInfo(mod).path() + QDir::separator();
+        return server.Traspaso();
+    }
+    QString Names(const char* column) const {
+        ListaDeclaraciones list;
+        Server().DameDeclaraciones({}, list, QString::fromUtf8(column), QStringLiteral("ASC"));
+        QStringList names;
+        for (int row = 0; row < list.Filas(); ++row)
+            names.append(list.texto(ListaDeclaraciones::Nombre, row));
+        return names.join(u' ');
+    }
+};
+
+TEST_F(Transfer, LeavesAPresentFileAsItIs) {
+    Server().GuardarDeclaracion(DistinctDeclaration(0, 4));
+    const QByteArray before = Bytes(mod);
+    EXPECT_FALSE(Run());
+    EXPECT_EQ(Bytes(mod), before);
+}
+
+TEST_F(Transfer, LeavesAMissingFileToTheFirstOperation) {
+    QFile::remove(mod);
+    QFile::remove(lec);
+    EXPECT_FALSE(Run());
+    EXPECT_FALSE(QFile::exists(mod));
+}
+
+TEST_F(Transfer, RemakesTheSortKeysOfOtherRules) {
+    for (const char16_t* name : {u"OÑA", u"ñu", u"nube"})
+        Server().GuardarDeclaracion(
+            Listed({}, QStringView(name).toString(), QStringView(name).toString(), 0));
+    Execute(mod,
+            "UPDATE TGENERAL SET VersionOrden = '1.2';"
+            "UPDATE TDeclaraciones SET NombreClave = x'00', ReferenciaClave = x'00',"
+            " NombreMayusculas = '', DniMayusculas = 'x', ReferenciaMayusculas = ''");
+    EXPECT_EQ(Names("2"), QStringLiteral("OÑA ñu nube"));
+    EXPECT_FALSE(Run());
+    EXPECT_EQ(Names("2"), QStringLiteral("nube ñu OÑA"));
+    EXPECT_EQ(Names("3"), QStringLiteral("nube ñu OÑA"));
+    EXPECT_EQ(Value(mod, "SELECT VersionOrden FROM TGENERAL"), store::CollationVersion());
+    EXPECT_EQ(Value(mod,
+                    "SELECT count(*) FROM TDeclaraciones WHERE NombreMayusculas = upper(NOMBRE)"
+                    " OR NombreMayusculas = 'ÑU'"),
+              QStringLiteral("3"));
+    EXPECT_EQ(Value(mod, "PRAGMA integrity_check"), QStringLiteral("ok"));
+}
+
+}  // namespace
+}  // namespace padral::test
