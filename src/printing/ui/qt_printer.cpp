@@ -143,7 +143,7 @@ void ImpresoraQt::comprobarCola() const {
 void ImpresoraQt::comprobarFichero() const {
     constexpr qint64 Cola = 32;
     QFile fichero(impresora_->outputFileName());
-    if (!fichero.open(QIODevice::ReadOnly)) fallar();
+    if (!fichero.open(QIODevice::ReadOnly) || fichero.isSequential()) fallar();
     fichero.seek(qMax<qint64>(0, fichero.size() - Cola));
     if (!fichero.read(Cola).contains("%%EOF")) fallar();
 }

@@ -1,0 +1,76 @@
+#pragma once
+// Rows that tell what a page must show, and the search for each of them in what was drawn.
+
+#include <gtest/gtest.h>
+
+#include <vector>
+
+#include "support/recording_printer.h"
+
+namespace padral::test {
+
+inline constexpr float X = 0.1F;  // left edge of every block
+
+/// A frame or rule, offsets from the origin of its block.
+struct FilaTrazo {
+    float x1, y1, x2, y2;
+};
+/// A box number; `derecha`: its right end stands at x and its top at y.
+struct FilaNumero {
+    const char16_t* numero;
+    float x, y;
+    bool derecha = false;
+};
+/// A text at a point or, with `ancho`, centred in that width below `y`.
+struct FilaTexto {
+    float x, y, ancho;
+    float cuerpo;
+    bool negrita, cursiva;
+    const char16_t* texto;
+};
+/// A Basque and Spanish pair, likewise.
+struct FilaPar {
+    float x, y, ancho;
+    float cuerpo;
+    bool negrita;
+    const char16_t *eus, *cas;
+};
+
+/// A text as it must be recorded.
+struct TextoEsperado {
+    QString texto;
+    float x, y;
+    float cuerpo;
+    bool negrita, cursiva;
+    QString fuente;
+};
+
+/// What was drawn and not yet claimed by a row.
+class Trazado {
+public:
+    explicit Trazado(const Documento& documento) : quedan_(documento.operaciones) {}
+
+    void Espera(const TextoEsperado& t);
+    void EsperaCaja(float origen, const FilaTrazo& f, int pluma);
+    void EsperaLinea(float origen, const FilaTrazo& f);
+    void EsperaImagen(const QString& nombre, float x, float y, std::optional<Tamano> tamano = {});
+    /// Nothing was drawn that no row told.
+    void EsperaNadaMas() const;
+    /// Claims every empty text: values that are written though they are empty.
+    void QuitaTextosVacios();
+
+private:
+    template <class Prueba>
+    bool quitar(Prueba prueba);
+    std::vector<Operacion> quedan_;
+};
+
+/// Texts that a row stands for. Positions follow from the fixed metric: a text at a point begins
+/// 0.35 of its height (0.4 mm a point) above it.
+std::vector<TextoEsperado> Textos(float origen, const FilaNumero& fila);
+std::vector<TextoEsperado> Textos(float origen, const FilaTexto& fila);
+std::vector<TextoEsperado> Textos(float origen, const FilaPar& fila);
+/// A value in bold "Arial Narrow".
+TextoEsperado ValorEsperado(float origen, float x, float y, const QString& texto, float cuerpo = 8);
+
+}  // namespace padral::test
