@@ -16,6 +16,7 @@ namespace {
 constexpr int Pausa = 3000;
 constexpr int TituloPrograma = 641;
 constexpr int LadoDibujo = 96;
+constexpr int Ancho = 680;
 
 }  // namespace
 
@@ -41,7 +42,7 @@ frmInicio::frmInicio(EstadoCompartido& estado)
     columna->addWidget(linea(u"lblTitulo1",
                              textos.Texto(CatalogoTextos::DesplazamientoEuskera + TituloPrograma) +
                                  QStringLiteral(" / ") + textos.Texto(TituloPrograma),
-                             17));
+                             16));
     columna->addWidget(linea(
         u"lblVersion", QStringLiteral("Bertsioa/Versión") + estado.VersionPrograma, 10));
     columna->addSpacing(8);
@@ -53,11 +54,10 @@ frmInicio::frmInicio(EstadoCompartido& estado)
     fila->setSpacing(28);
     fila->addWidget(imagen, 0, Qt::AlignTop);
     fila->addLayout(columna);
-    setFixedWidth(620);
+    setFixedSize(Ancho, fila->totalHeightForWidth(Ancho));
 }
 
 void frmInicio::Cargar() {
-    adjustSize();
     if (const QScreen* pantalla = QGuiApplication::primaryScreen())
         move(pantalla->availableGeometry().center() - rect().center());
     show();

@@ -1,0 +1,250 @@
+// What people wait for, beside the bare thing it is made of.
+
+#include <benchmark/benchmark.h>
+#include <sqlite3.h>
+
+#include <QApplication>
+#include <QDir>
+#include <QFile>
+#include <QMainWindow>
+#include <QPushButton>
+#include <QTemporaryDir>
+
+#include "app/program.h"
+#include "platform/failure.h"
+#include "printing/job.h"
+#include "printing/ui/printer_factory.h"
+
+namespace padral {
+
+namespace {
+
+constexpr int NumDeclaraciones = 100000;
+
+class AvisadorMudo : public Avisador {
+public:
+    Respuesta Mostrar(const Mensaje&) override { return Respuesta::Aceptar; }
+};
+
+class RelojSinEspera : public RelojSistema {
+public:
+    void Esperar(int) override {}
+};
+
+/// Resident memory in MiB now.
+double memoria() {
+    QFile fichero(QStringLiteral("/proc/self/statm"));
+    if (!fichero.open(QIODevice::ReadOnly)) return 0;
+    return fichero.readAll().split(' ').value(1).toDouble() * 4096 / 1048576;
+}
+
+/// A program folder with fresh data; the big one holds 100 000 declarations.
+class Carpeta {
+public:
+    explicit Carpeta(bool grande) {
+        QDir(carpeta_.path()).mkpath(QStringLiteral("Tablas"));
+        for (const QString& nombre :
+             {QStringLiteral("DPadralLec.mdb"), QStringLiteral("DPadralMod.mdb")})
+            QFile::copy(QStringLiteral(PADRAL_BINARY_DIR "/data/") + nombre,
+                        carpeta_.filePath(QStringLiteral("Tablas/") + nombre));
+        if (grande) llenar();
+    }
+    QString ruta() const { return carpeta_.path(); }
+    QString mod() const { return carpeta_.filePath(QStringLiteral("Tablas/DPadralMod.mdb")); }
+
+private:
+    void llenar();
+    // In memory where that is to be had: filling the big one takes 100 000 transactions.
+    QTemporaryDir carpeta_{QDir(QStringLiteral("/dev/shm")).exists()
+                               ? QStringLiteral("/dev/shm/padral-XXXXXX")
+                               : QDir::tempPath() + QStringLiteral("/padral-XXXXXX")};
+};
+
+struct Banco {
+    explicit Banco(const QString& carpeta)
+        : impresora(reloj), programa({avisador, reloj, impresora}, carpeta, carpeta) {
+        impresora.UsarPdf(carpeta);
+    }
+    AvisadorMudo avisador;
+    RelojSinEspera reloj;
+    FabricaQt impresora;
+    Programa programa;
+};
+
+void datos(cDeclaraciones& d, int n) {
+    static const char* const Apellidos[] = {"ÑUÑEZ", "AGIRRE", "ZUBIA", "ECHEVERRIA", "NUÑEZ", "OCHOA"};
+    auto& g = d.general;
+    g.DNI = QStringLiteral("%1Z").arg(n * 7919 % 100000000, 8, 10, QChar(u'0'));
+    g.NOMBRE = QString::fromUtf8(Apellidos[n % 6]) + QStringLiteral(" %1 DECLARANTE").arg(n * 31 % 99991);
+    g.NumeroArchivo = QStringLiteral("R%1").arg(n);
+    g.FECHADECLARACION = 20200101 + n % 28;
+    g.Causa1 = QStringLiteral("I");
+    g.FirmaEnCalidadDe = FirmaElMismo;
+    g.ElMismo = QStringLiteral("X");
+    d.csde = 0;
+}
+
+void Carpeta::llenar() {
+    Banco banco(ruta());
+    banco.programa.Iniciar();
+    for (int n = 0; n < NumDeclaraciones; ++n) {
+        datos(banco.programa.declaracion(), n);
+        banco.programa.declaracion().GuardarDeclaracion();
+    }
+}
+
+const Carpeta& carpetaGrande() {
+    static const Carpeta carpeta(true);
+    return carpeta;
+}
+
+/// Shows a window and waits until it has painted.
+void pintar(QWidget& ventana) {
+    ventana.resize(1280, 720);
+    ventana.show();
+    ventana.activateWindow();
+    QCoreApplication::processEvents();
+    ventana.grab();
+}
+
+void VentanaSola(benchmark::State& estado) {
+    for (auto _ : estado) {
+        QMainWindow ventana;
+        pintar(ventana);
+    }
+    estado.counters["MiB"] = memoria();
+}
+BENCHMARK(VentanaSola)->Unit(benchmark::kMillisecond);
+
+void ArranqueHastaLaVentana(benchmark::State& estado) {
+    const Carpeta carpeta(false);
+    for (auto _ : estado) {
+        Banco banco(carpeta.ruta());
+        banco.programa.Iniciar();
+        banco.programa.estado().act.ActOnline = 1;
+        banco.programa.MostrarVentana();
+        pintar(banco.programa.ventana());
+    }
+    estado.counters["MiB"] = memoria();
+}
+BENCHMARK(ArranqueHastaLaVentana)->Unit(benchmark::kMillisecond);
+
+void LeerFilasConSqlite(benchmark::State& estado) {
+    const QByteArray fichero = carpetaGrande().mod().toUtf8();
+    const char* sql =
+        "SELECT csde, FECHADECLARACION, DNI, NOMBRE, NumeroArchivo, Causa1, APARTADOS, Causa2 "
+        "FROM TDeclaraciones";
+    for (auto _ : estado) {
+        sqlite3* base = nullptr;
+        sqlite3_open_v2(fichero.constData(), &base, SQLITE_OPEN_READONLY, nullptr);
+        sqlite3_stmt* consulta = nullptr;
+        if (sqlite3_prepare_v2(base, sql, -1, &consulta, nullptr) != SQLITE_OK)
+            estado.SkipWithError(sqlite3_errmsg(base));
+        qint64 letras = 0;
+        while (sqlite3_step(consulta) == SQLITE_ROW)
+            for (int c = 2; c < 8; ++c) {
+                sqlite3_column_text(consulta, c);
+                letras += sqlite3_column_bytes(consulta, c);
+            }
+        benchmark::DoNotOptimize(letras);
+        sqlite3_finalize(consulta);
+        sqlite3_close(base);
+    }
+}
+BENCHMARK(LeerFilasConSqlite)->Unit(benchmark::kMillisecond);
+
+void LeerLista(benchmark::State& estado) {
+    SvrDPadral::cDeclaracionesSvr servidor;
+    servidor.mdbname = carpetaGrande().mod();
+    const QString columna = QString::number(estado.range(0));
+    for (auto _ : estado) {
+        SvrDPadral::ListaDeclaraciones lista;
+        servidor.DameDeclaraciones({}, lista, columna, QStringLiteral("ASC"));
+        benchmark::DoNotOptimize(lista.Filas());
+    }
+    estado.counters["MiB"] = memoria();
+}
+BENCHMARK(LeerLista)->DenseRange(1, 4)->Unit(benchmark::kMillisecond);
+
+void BuscarPorNombre(benchmark::State& estado) {
+    SvrDPadral::cDeclaracionesSvr servidor;
+    servidor.mdbname = carpetaGrande().mod();
+    SvrDPadral::CriteriosLista criterios;
+    criterios[2] = QStringLiteral("ñuñez 1");
+    for (auto _ : estado) {
+        SvrDPadral::ListaDeclaraciones lista;
+        servidor.DameDeclaraciones(criterios, lista, QStringLiteral("2"), QStringLiteral("ASC"));
+        benchmark::DoNotOptimize(lista.Filas());
+    }
+}
+BENCHMARK(BuscarPorNombre)->Unit(benchmark::kMillisecond);
+
+void AbrirLista(benchmark::State& estado) {
+    Banco banco(carpetaGrande().ruta());
+    banco.programa.Iniciar();
+    auto& ventana = banco.programa.ventana();
+    ventana.resize(1280, 720);
+    ventana.show();
+    ventana.HabilitarMenus();
+    const double antes = memoria();
+    for (auto _ : estado) {
+        ventana.findChild<QAction*>(QStringLiteral("Abrir"))->trigger();
+        ventana.grab();
+        estado.PauseTiming();
+        estado.counters["MiB more"] = memoria() - antes;
+        ventana.findChild<QPushButton*>(QStringLiteral("cmdAnterior"))->click();
+        QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+        estado.ResumeTiming();
+    }
+}
+BENCHMARK(AbrirLista)->Unit(benchmark::kMillisecond);
+
+void Guardar(benchmark::State& estado) {
+    const Carpeta carpeta(false);
+    Banco banco(carpeta.ruta());
+    banco.programa.Iniciar();
+    auto& d = banco.programa.declaracion();
+    datos(d, 1);
+    d.csde = d.GuardarDeclaracion();
+    for (auto _ : estado) d.GuardarDeclaracion();
+}
+BENCHMARK(Guardar)->Unit(benchmark::kMillisecond);
+
+/// One row replaced in a transaction with the same settings.
+void GuardarFilaConSqlite(benchmark::State& estado) {
+    const QTemporaryDir carpeta;
+    sqlite3* base = nullptr;
+    sqlite3_open(carpeta.filePath(QStringLiteral("a.db")).toUtf8().constData(), &base);
+    sqlite3_exec(base, "CREATE TABLE t(id INTEGER PRIMARY KEY, x TEXT)", nullptr, nullptr, nullptr);
+    for (auto _ : estado)
+        sqlite3_exec(base, "INSERT OR REPLACE INTO t VALUES(1, hex(randomblob(2000)))", nullptr,
+                     nullptr, nullptr);
+    sqlite3_close(base);
+}
+BENCHMARK(GuardarFilaConSqlite)->Unit(benchmark::kMillisecond);
+
+void ImprimirDosCopias(benchmark::State& estado) {
+    const Carpeta carpeta(false);
+    Banco banco(carpeta.ruta());
+    banco.programa.Iniciar();
+    auto& d = banco.programa.declaracion();
+    datos(d, 1);
+    Imprimir imprimir(banco.programa.estado(), {d.general}, banco.impresora);
+    for (auto _ : estado)
+        for (const QString& copia : CopiasPedidas({})) imprimir.ImprimirDeclaracion(copia);
+    banco.impresora.TomarFicheros();
+}
+BENCHMARK(ImprimirDosCopias)->Unit(benchmark::kMillisecond);
+
+}  // namespace
+
+}  // namespace padral
+
+int main(int argc, char** argv) {
+    const QApplication aplicacion(argc, argv);
+    QApplication::setQuitOnLastWindowClosed(false);
+    benchmark::Initialize(&argc, argv);
+    benchmark::RunSpecifiedBenchmarks();
+    benchmark::Shutdown();
+    return 0;
+}
