@@ -7,7 +7,6 @@
 #include "app/application.h"
 #include "app/program.h"
 #include "app/tour/guide.h"
-#include "platform/program_folder.h"
 #include "printing/ui/printer_factory.h"
 
 namespace padral {
@@ -60,7 +59,8 @@ int probar(Aplicacion& aplicacion, const QStringList& argumentos) {
     RelojParado reloj;
     FabricaQt impresora(reloj);
     impresora.UsarPdf(argumentos.value(2));
-    Programa programa({avisador, reloj, impresora}, CarpetaEjecutable(), argumentos.value(1));
+    Programa programa({avisador, reloj, impresora}, QStringLiteral(PADRAL_BINARIES),
+                      argumentos.value(1));
     aplicacion.alFallar = [&](const QString& castellano, const QString& euskera) {
         MostrarFallo(programa.estado(), programa.IdiomaConocido(), castellano, euskera);
     };

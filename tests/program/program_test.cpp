@@ -56,7 +56,8 @@ protected:
         proceso.start(QStringLiteral(PADRAL_PROBE),
                       {carpeta_.path(), carpeta_.filePath(Salida), accion});
         EXPECT_TRUE(proceso.waitForFinished(60000));
-        lineas = QString::fromUtf8(proceso.readAllStandardOutput()).split(u'\n', Qt::SkipEmptyParts);
+        lineas =
+            QString::fromUtf8(proceso.readAllStandardOutput()).split(u'\n', Qt::SkipEmptyParts);
         EXPECT_EQ(proceso.exitStatus(), QProcess::NormalExit) << lineas.join(u'\n').toStdString();
         return proceso.exitCode();
     }
@@ -67,7 +68,8 @@ protected:
         EXPECT_TRUE(caja.startsWith(QStringLiteral("BOX 3 [Declaración Padral] ")))
             << caja.toStdString();
         EXPECT_TRUE(caja.contains(nombre)) << caja.toStdString();
-        EXPECT_EQ(lineas.filter(QStringLiteral("BOX")).size(), 1) << lineas.join(u'\n').toStdString();
+        EXPECT_EQ(lineas.filter(QStringLiteral("BOX")).size(), 1)
+            << lineas.join(u'\n').toStdString();
     }
 
     QTemporaryDir carpeta_;
@@ -150,7 +152,8 @@ TEST_F(Programa, PrinterThatFailsKeepsTheSavedDeclaration) {
     sqlite3* base = nullptr;
     ASSERT_EQ(sqlite3_open(mod().toUtf8().constData(), &base), SQLITE_OK);
     sqlite3_stmt* consulta = nullptr;
-    ASSERT_EQ(sqlite3_prepare_v2(base, "PRAGMA integrity_check", -1, &consulta, nullptr), SQLITE_OK);
+    ASSERT_EQ(sqlite3_prepare_v2(base, "PRAGMA integrity_check", -1, &consulta, nullptr),
+              SQLITE_OK);
     ASSERT_EQ(sqlite3_step(consulta), SQLITE_ROW);
     EXPECT_STREQ(reinterpret_cast<const char*>(sqlite3_column_text(consulta, 0)), "ok");
     sqlite3_finalize(consulta);
@@ -172,9 +175,10 @@ TEST_F(Programa, LeavingWithChangesWarnsAndStays) {
     EXPECT_EQ(correr(QStringLiteral("leave")), 0);
     EXPECT_TRUE(lineas.contains(QStringLiteral("WINDOW OPEN")));
     EXPECT_EQ(lineas.filter(QStringLiteral("BOX 2")).size(), 1);
-    EXPECT_TRUE(lineas.filter(QStringLiteral("BOX 2"))
-                    .value(0)
-                    .endsWith(QStringLiteral("Existen modificaciones pendientes : grabar o cancelar")));
+    EXPECT_TRUE(
+        lineas.filter(QStringLiteral("BOX 2"))
+            .value(0)
+            .endsWith(QStringLiteral("Existen modificaciones pendientes : grabar o cancelar")));
 }
 
 TEST_F(Programa, ClosingTheWindowWarnsAndEnds) {

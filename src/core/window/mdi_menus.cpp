@@ -71,16 +71,19 @@ void MDIPadral::crearMenus() {
         accion->setEnabled(false);
         acciones_[nombre] = accion;
     }
-    const auto conectar = [this](const char16_t* nombre, std::function<void()> hacer) {
+    const auto conectar = [this](const char16_t* nombre, const std::function<void()>& hacer) {
         auto* accion = acciones_[QString::fromUtf16(nombre)];
         accion->setEnabled(true);
         connect(accion, &QAction::triggered, this, [this, hacer] { orden(hacer); });
     };
     conectar(u"mnuabrir", [this] { abrirLista(QStringLiteral("C"), QStringLiteral("A"), true); });
-    conectar(u"mnueliminar", [this] { abrirLista(QStringLiteral("E"), QStringLiteral("E"), true); });
+    conectar(u"mnueliminar",
+             [this] { abrirLista(QStringLiteral("E"), QStringLiteral("E"), true); });
     conectar(u"mnunueva", [this] { nueva(); });
     conectar(u"mnucontenido", [this] { ayuda(); });
     conectar(u"mnuabout", [this] {
+        // A dialog takes the user's input.
+        CursorEspera(false);
         if (mostrarAcercaDe) mostrarAcercaDe();
     });
     acciones_[QStringLiteral("mnucontenido")]->setShortcut(QKeySequence::HelpContents);
@@ -181,8 +184,8 @@ void MDIPadral::nueva() {
 
 void MDIPadral::ayuda() {
     if (mostrarAyuda)
-        mostrarAyuda(estado_.SegunIdioma(QStringLiteral("indice.htm"),
-                                         QStringLiteral("aurkibidea.htm")));
+        mostrarAyuda(
+            estado_.SegunIdioma(QStringLiteral("indice.htm"), QStringLiteral("aurkibidea.htm")));
 }
 
 void MDIPadral::salir() {
