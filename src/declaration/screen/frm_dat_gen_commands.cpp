@@ -98,7 +98,8 @@ void FrmDatGen::anterior() {
 void FrmDatGen::imprimir() {
     if (!ValidacionIntroduccionDatos(true) || sociedadesYExentas()) return;
     if (estado_.ModificacionesPendientes) {
-        if (!estado_.Preguntar(538, 539)) return;
+        const Mensaje pregunta{Texto(538), Texto(539), Icono::Informacion, Botones::AceptarCancelar};
+        if (estado_.avisador.Mostrar(pregunta) != Respuesta::Aceptar) return;
         AjustarPorFechaVigor(declaracion_);
         if (!validarAntesDeGuardar()) return;
         const qint32 clave = guardar();

@@ -47,7 +47,7 @@ void FrmDecLista::accionDeFila() {
 }
 
 void FrmDecLista::eliminar() {
-    const Mensaje pregunta{Texto(PreguntaEliminar), Texto(TituloPregunta), Icono::Informacion,
+    const Mensaje pregunta{Texto(PreguntaEliminar), Texto(TituloPregunta), Icono::Exclamacion,
                            Botones::SiNo};
     if (estado_.avisador.Mostrar(pregunta) != Respuesta::Si) return;
     lista_.EliminarParticipes(lista_.csde);
