@@ -72,10 +72,12 @@ struct Banco {
 };
 
 void datos(cDeclaraciones& d, int n) {
-    static const char* const Apellidos[] = {"ÑUÑEZ", "AGIRRE", "ZUBIA", "ECHEVERRIA", "NUÑEZ", "OCHOA"};
+    static const char* const Apellidos[] = {"ÑUÑEZ",      "AGIRRE", "ZUBIA",
+                                            "ECHEVERRIA", "NUÑEZ",  "OCHOA"};
     auto& g = d.general;
     g.DNI = QStringLiteral("%1Z").arg(n * 7919 % 100000000, 8, 10, QChar(u'0'));
-    g.NOMBRE = QString::fromUtf8(Apellidos[n % 6]) + QStringLiteral(" %1 DECLARANTE").arg(n * 31 % 99991);
+    g.NOMBRE =
+        QString::fromUtf8(Apellidos[n % 6]) + QStringLiteral(" %1 DECLARANTE").arg(n * 31 % 99991);
     g.NumeroArchivo = QStringLiteral("R%1").arg(n);
     g.FECHADECLARACION = 20200101 + n % 28;
     g.Causa1 = QStringLiteral("I");
