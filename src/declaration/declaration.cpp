@@ -15,6 +15,9 @@ constexpr qint32 FechaEdicion2015 = 20150101;
 const QString Marca = QStringLiteral("X");
 const QString SinMarca = QStringLiteral(" ");
 
+const QString PantallaLista = QStringLiteral("frmListaParticipes");
+const QString PantallaParticipe = QStringLiteral("frmDatosParticipe");
+
 }  // namespace
 
 cDeclaraciones::cDeclaraciones(EstadoCompartido& estadoDado, Pantallas& pantallas, cDecLista& lista)
@@ -101,15 +104,13 @@ void cDeclaraciones::GuardarParticipes(qint32 clave) {
 
 void cDeclaraciones::guardarParticipe(cParticipes& participe, qint32 clave) {
     const QString modo = participe.Modo.recortado();
-    const bool borrado = modo == QStringLiteral("E");
-    const bool esAlta = Modo == QStringLiteral("A") || modo == QStringLiteral("A") ||
-                        (modo == QStringLiteral("C") && participe.cspa == 0);
-    if (borrado) {
-        if (Modo == QStringLiteral("C") && participe.cspa != 0) participe.EliminarParticipe();
-        return;
-    }
+    const bool alta = modo == QStringLiteral("A"), consulta = modo == QStringLiteral("C");
+    if (modo == QStringLiteral("E") && Modo == QStringLiteral("C") && participe.cspa != 0)
+        participe.EliminarParticipe();
+    if (!alta && !consulta) return;
     participe.csde = clave;
-    if (esAlta)
+    // A copy adds even those that its source has in the store.
+    if (alta || Modo == QStringLiteral("A") || participe.cspa == 0)
         participe.AñadirParticipe();
     else
         participe.ModificarParticipe();
@@ -121,11 +122,14 @@ QString cDeclaraciones::PantallaApartado(int numero) const {
         case 2:
             return QStringLiteral("FrmApartado2");
         case 3:
-            return edicion2015 ? QStringLiteral("FrmApartado3_2015") : QStringLiteral("FrmApartado3");
+            return edicion2015 ? QStringLiteral("FrmApartado3_2015")
+                               : QStringLiteral("FrmApartado3");
         case 4:
-            return edicion2015 ? QStringLiteral("frmApartado4_2015") : QStringLiteral("frmApartado4");
+            return edicion2015 ? QStringLiteral("frmApartado4_2015")
+                               : QStringLiteral("frmApartado4");
         case 5:
-            return edicion2015 ? QStringLiteral("frmApartado5_2015") : QStringLiteral("frmApartado5");
+            return edicion2015 ? QStringLiteral("frmApartado5_2015")
+                               : QStringLiteral("frmApartado5");
         case 6:
             return QStringLiteral("frmApartado6");
         case 7:
@@ -153,12 +157,11 @@ void cDeclaraciones::IrApartadoAnterior(int numero, const QString& nombreFormula
     estado.FormularioOrigen = nombreFormulario;
     if (numero < 2 || numero > 10) return;
     if (numero == 10 && Marcado(general.AnexoI)) {
-        pantallas_.Mostrar(general.NumParti > 0 ? QStringLiteral("frmListaParticipes")
-                                                : PrepararAnexoI());
+        pantallas_.Mostrar(general.NumParti > 0 ? PantallaLista : prepararParticipe());
         return;
     }
     if (numero >= 9 && general.NumParti > 0) {
-        pantallas_.Mostrar(QStringLiteral("frmListaParticipes"));
+        pantallas_.Mostrar(PantallaLista);
         return;
     }
     for (int n = std::min(numero, 8); n > 2; --n)
@@ -183,12 +186,19 @@ void cDeclaraciones::IrApartadoSiguiente(int numero) {
     if (Marcado(general.AnexoII)) pantallas_.Mostrar(QStringLiteral("frmAnexoII"));
 }
 
+QString cDeclaraciones::PantallaAnexoI() const {
+    return NumParti != 0 ? PantallaLista : PantallaParticipe;
+}
+
 QString cDeclaraciones::PrepararAnexoI() {
-    if (NumParti != 0) return QStringLiteral("frmListaParticipes");
+    return NumParti != 0 ? PantallaLista : prepararParticipe();
+}
+
+QString cDeclaraciones::prepararParticipe() {
     participantes.ParticipeActual = nuevoParticipe();
     participantes.ParticipeActual->Modo = QStringLiteral("A");
     participantes.ParticipeActual->MODIFPARTICIPES = true;
-    return QStringLiteral("frmDatosParticipe");
+    return PantallaParticipe;
 }
 
 std::shared_ptr<cParticipes> cDeclaraciones::nuevoParticipe() {

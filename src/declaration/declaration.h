@@ -41,7 +41,9 @@ public:
     void IrApartadoSiguiente(int numero);
     /// Name of the screen of section 2 to 7, by the effective date.
     QString PantallaApartado(int numero) const;
-    /// The participants list, or a new participant when there is none.
+    /// The participants list, or the screen of one participant when there is none.
+    QString PantallaAnexoI() const;
+    /// The same, with a new participant made ready for that screen.
     QString PrepararAnexoI();
 
     void IncrementarNumParti() { cambiarNumParti(1); }
@@ -70,6 +72,7 @@ public:
 
 private:
     void cambiarNumParti(int cambio);
+    QString prepararParticipe();
     void guardarParticipe(cParticipes& participe, qint32 clave);
     std::shared_ptr<cParticipes> nuevoParticipe();
 

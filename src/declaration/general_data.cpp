@@ -40,9 +40,9 @@ constexpr std::array<Posicion, 15> Posiciones = {{
 constexpr qsizetype NumPosiciones = 18;
 
 /// The flags in the order of the eight characters of element 12.
-constexpr std::array<QString D::*, 8> Banderas = {
-    &D::Apartado2, &D::Apartado3, &D::Apartado4, &D::Apartado5,
-    &D::Apartado6, &D::Apartado7, &D::AnexoI,    &D::AnexoII};
+constexpr std::array<QString D::*, 8> Banderas = {&D::Apartado2, &D::Apartado3, &D::Apartado4,
+                                                  &D::Apartado5, &D::Apartado6, &D::Apartado7,
+                                                  &D::AnexoI,    &D::AnexoII};
 
 }  // namespace
 

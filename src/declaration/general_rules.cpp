@@ -128,8 +128,9 @@ constexpr std::array<ReglaGeneral, 31> Reglas = {{
      479, 480, u"txtDNIRepresentante", false},
     {31,
      [](const G& g) {
-         return Marcado(g.ElMismo) && (!vacio(g.DNIRepresentante) || !vacio(g.NombreRepresentante) ||
-                                       g.FirmaEnCalidadDe != FirmaElMismo);
+         return Marcado(g.ElMismo) &&
+                (!vacio(g.DNIRepresentante) || !vacio(g.NombreRepresentante) ||
+                 g.FirmaEnCalidadDe != FirmaElMismo);
      },
      481, 480, u"txtDNIRepresentante", false},
 }};
@@ -146,9 +147,7 @@ const ReglaGeneral* PrimeraCausaRota(const cDatosGenerales& general) {
 
 std::optional<NifRechazado> PrimerNifRechazado(const cDatosGenerales& general,
                                                const std::function<bool(const QString&)>& valida) {
-    const auto malo = [&](const QString& nif) {
-        return !vacio(nif) && !valida(nif.trimmed());
-    };
+    const auto malo = [&](const QString& nif) { return !vacio(nif) && !valida(nif.trimmed()); };
     if (malo(general.DNIAnterior)) return NifRechazado{u"txtDNIAnterior", true};
     if (malo(general.DNIRepresentante)) return NifRechazado{u"txtDNIRepresentante", false};
     if (!en(general.Causa2, u"A") && malo(general.DNI)) return NifRechazado{u"txtDNI", false};

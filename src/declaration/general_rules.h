@@ -15,8 +15,8 @@ struct ReglaGeneral {
     bool (*rota)(const cDatosGenerales&);
     int texto;
     int titulo;
-    const char16_t* foco;    ///< control that gets the focus, u"" for none
-    bool pestanaModif;       ///< the tab of the change of identity comes to the front
+    const char16_t* foco;  ///< control that gets the focus, u"" for none
+    bool pestanaModif;     ///< the tab of the change of identity comes to the front
 };
 
 /// The rules of `ValidarCausas` in their order; only the first broken one is told.

@@ -10,7 +10,7 @@ using S = DatosGeneralesStore;
 const QString Marca = QStringLiteral("X");
 
 bool tipoNoEs(const QString& c, QStringView excluidos) {
-    return !c.isEmpty() && !excluidos.contains(c);
+    return !c.trimmed().isEmpty() && !excluidos.contains(c);
 }
 
 /// Stored participants are kept until the save, which deletes them in the store.
@@ -46,13 +46,12 @@ constexpr std::array<CasillaApartado, 8> Apartados = {{
     {u"chkApartado7", u"cmdApartado7", 7, 412, 413, 529, 530, u"7 ", &S::Apartado7,
      [](const D& d) { return d.apartado7.Lleno; },
      [](D& d) { d.apartado7.ResetForNewDeclaration(); },
-     [](const D&, const QString& c) { return !c.isEmpty(); }},
+     [](const D&, const QString& c) { return tipoNoEs(c, u""); }},
     {u"chkApartado8", u"cmdAnexo", 8, 410, 411, 531, 532, u"AI", &S::AnexoI,
      [](const D& d) { return d.general.NumParti > 0; }, borrarParticipes,
      [](const D& d, const QString&) { return !d.AnexoIForzado(); }},
     {u"chkAnexoII", u"cmdAnexoII", 10, 751, 752, 746, 747, u"AII", &S::AnexoII,
-     [](const D& d) { return d.anexoII.Lleno; },
-     [](D& d) { d.anexoII.ResetForNewDeclaration(); },
+     [](const D& d) { return d.anexoII.Lleno; }, [](D& d) { d.anexoII.ResetForNewDeclaration(); },
      [](const D&, const QString& c) { return tipoNoEs(c, u"C"); }},
 }};
 
@@ -90,10 +89,10 @@ constexpr std::array<EfectoTipo, 4> Efectos = {{
 }};
 
 constexpr std::array ApartadosDeCese = {Apartado::Tres, Apartado::Cuatro, Apartado::AnexoII};
-constexpr std::array ApartadosDeTipo = {Apartado::Tres,  Apartado::Cuatro, Apartado::Cinco,
-                                        Apartado::Seis,  Apartado::Siete,  Apartado::AnexoII};
+constexpr std::array ApartadosDeTipo = {Apartado::Tres, Apartado::Cuatro, Apartado::Cinco,
+                                        Apartado::Seis, Apartado::Siete,  Apartado::AnexoII};
 
-std::optional<PreguntaBorrado> preguntaLista(const D& d, QString lista) {
+std::optional<PreguntaBorrado> preguntaLista(const D& d, const QString& lista) {
     if (lista.isEmpty()) return std::nullopt;
     return PreguntaBorrado{d.estado.Texto(PreguntaAntes) + lista + d.estado.Texto(PreguntaDespues),
                            d.estado.Texto(TituloBorrado)};
@@ -177,6 +176,8 @@ void AjustarGenerales(cDeclaraciones& d) {
     if (g.Causa2 != QStringLiteral("A")) g.FechaConstitucion = 0;
     if (g.Causa2 != QStringLiteral("E")) g.FechaInscripcion = 0;
     g.FECHAVIGOR = CalcularFechaVigor(d);
+    // A box that cannot be ticked by hand shows its mark.
+    d.MarcarAnexoPorCese();
 }
 
 void AjustarPorFechaModificacion(cDeclaraciones& d) {

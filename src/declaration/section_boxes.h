@@ -66,8 +66,8 @@ std::optional<PreguntaBorrado> PreguntaQuitarTipo(const cDeclaraciones& declarac
 /// Gives up the current type: clears sections 3 to 7 and Annex II.
 void QuitarTipo(cDeclaraciones& declaracion);
 
-/// Empties the fields that the type, the request and the reason for change close, and sets
-/// `FECHAVIGOR`. Runs each time the screen shows the record.
+/// Empties the fields that the type, the request and the reason for change close, marks Annex I
+/// where it is forced, and sets `FECHAVIGOR`. Runs each time the screen shows the record.
 void AjustarGenerales(cDeclaraciones& declaracion);
 /// The effective date as the type gives it.
 qint32 CalcularFechaVigor(const cDeclaraciones& declaracion);

@@ -77,6 +77,8 @@ private:
 
     // Commands, in frm_dat_gen_commands.cpp.
     void conectarBotones();
+    /// Name of the screen that the section's button opens.
+    QString pantallaDe(const CasillaApartado& casilla) const;
     void abrirApartado(const CasillaApartado& casilla);
     void aceptar();
     void cancelar();

@@ -15,8 +15,7 @@ constexpr int TituloError = 449;
 void FrmDatGen::conectarCasillas() {
     const auto casilla = [this](QCheckBox* caja, auto pulsar) {
         guardia_.Orden(
-            caja, [caja, pulsar] { pulsar(caja->isChecked()); },
-            [this] { presentarCasillas(); });
+            caja, [caja, pulsar] { pulsar(caja->isChecked()); }, [this] { presentarCasillas(); });
     };
     for (std::size_t i = 0; i < tipos_.size(); ++i)
         casilla(tipos_[i], [this, i](bool marcada) { pulsarTipo(CasillasTipo()[i], marcada); });
@@ -24,9 +23,8 @@ void FrmDatGen::conectarCasillas() {
         casilla(solicitudes_[i],
                 [this, i](bool marcada) { pulsarSolicitud(CasillasSolicitud()[i], marcada); });
     for (std::size_t i = 0; i < apartados_.size(); ++i)
-        casilla(apartados_[i], [this, i](bool marcada) {
-            pulsarApartado(static_cast<Apartado>(i), marcada);
-        });
+        casilla(apartados_[i],
+                [this, i](bool marcada) { pulsarApartado(static_cast<Apartado>(i), marcada); });
     guardia_.Orden(
         chkElMismo_, [this] { pulsarElMismo(chkElMismo_->isChecked()); },
         [this] { presentarFirma(); });
@@ -49,8 +47,8 @@ void FrmDatGen::presentarCasillas() {
 }
 
 void FrmDatGen::pulsarTipo(const CasillaTipo& tipo, bool marcada) {
-    const auto pregunta = marcada ? PreguntaMarcarTipo(declaracion_, tipo.letra)
-                                  : PreguntaQuitarTipo(declaracion_);
+    const auto pregunta =
+        marcada ? PreguntaMarcarTipo(declaracion_, tipo.letra) : PreguntaQuitarTipo(declaracion_);
     if (pregunta && !estado_.Preguntar(pregunta->texto, pregunta->titulo)) {
         presentarCasillas();
         return;

@@ -9,6 +9,9 @@ namespace {
 const QString EstaPantalla = QStringLiteral("FrmDatGen");
 const QString VentanaPrincipal = QStringLiteral("MDIPadral");
 
+constexpr int NumeroAnexoI = 8;
+constexpr int NumeroAnexoII = 10;
+
 }  // namespace
 
 void FrmDatGen::conectarBotones() {
@@ -24,12 +27,16 @@ void FrmDatGen::conectarBotones() {
     Orden(PicAnterior_, cmdAnterior_);
 }
 
+QString FrmDatGen::pantallaDe(const CasillaApartado& casilla) const {
+    if (casilla.numero == NumeroAnexoI) return declaracion_.PantallaAnexoI();
+    if (casilla.numero == NumeroAnexoII) return QStringLiteral("frmAnexoII");
+    return declaracion_.PantallaApartado(casilla.numero);
+}
+
 void FrmDatGen::abrirApartado(const CasillaApartado& casilla) {
     if (!ValidacionIntroduccionDatos(true) || !ValidarCausas()) return;
-    QString pantalla = declaracion_.PantallaApartado(casilla.numero);
-    if (casilla.numero == 8) pantalla = declaracion_.PrepararAnexoI();
-    if (casilla.numero == 10) pantalla = QStringLiteral("frmAnexoII");
-    pantallas_.Mostrar(pantalla);
+    if (casilla.numero == NumeroAnexoI) declaracion_.PrepararAnexoI();
+    pantallas_.Mostrar(pantallaDe(casilla));
     pantallas_.Descargar(EstaPantalla);
 }
 
@@ -98,7 +105,8 @@ void FrmDatGen::anterior() {
 void FrmDatGen::imprimir() {
     if (!ValidacionIntroduccionDatos(true) || sociedadesYExentas()) return;
     if (estado_.ModificacionesPendientes) {
-        const Mensaje pregunta{Texto(538), Texto(539), Icono::Informacion, Botones::AceptarCancelar};
+        const Mensaje pregunta{Texto(538), Texto(539), Icono::Informacion,
+                               Botones::AceptarCancelar};
         if (estado_.avisador.Mostrar(pregunta) != Respuesta::Aceptar) return;
         AjustarPorFechaVigor(declaracion_);
         if (!validarAntesDeGuardar()) return;

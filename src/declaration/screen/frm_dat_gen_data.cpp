@@ -30,14 +30,13 @@ void FrmDatGen::PrepararFormulario() {
     const QString& origen = estado_.FormularioOrigen;
     // Coming back from a section nothing is loaded: the records hold the work.
     if (origen != QStringLiteral("FrmDecLista") && origen != QStringLiteral("MDIPadral")) return;
-    const bool alta = declaracion_.Modo == QStringLiteral("A");
-    if (alta && declaracion_.csde == 0) {
+    if (declaracion_.Modo == QStringLiteral("A") && declaracion_.csde == 0) {
         declaracion_.InicializarDeclaracion();
         return;
     }
     declaracion_.CargarDeclaracion();
     // A copy is a declaration that the store has not seen.
-    if (alta) declaracion_.csde = 0;
+    if (declaracion_.Modo != QStringLiteral("C")) declaracion_.csde = 0;
 }
 
 void FrmDatGen::PresentaDatos() {
@@ -102,11 +101,7 @@ void FrmDatGen::presentarFirma() {
 
 void FrmDatGen::Presentabotones() {
     for (std::size_t i = 0; i < apartados_.size(); ++i) {
-        const auto& casilla = CasillasApartado()[i];
-        const QString pantalla = casilla.numero == 8 ? QStringLiteral("frmListaParticipes")
-                                 : casilla.numero == 10
-                                     ? QStringLiteral("frmAnexoII")
-                                     : declaracion_.PantallaApartado(casilla.numero);
+        const QString pantalla = pantallaDe(CasillasApartado()[i]);
         botonesApartado_[i]->setEnabled(apartados_[i]->isChecked() &&
                                         pantallas_.Disponible(pantalla));
     }
@@ -122,7 +117,12 @@ void FrmDatGen::presentarPestana(int pestana) {
 
 void FrmDatGen::enfocar(const QString& nombre) {
     if (nombre.isEmpty()) return;
-    if (auto* control = findChild<QWidget*>(nombre)) control->setFocus(Qt::OtherFocusReason);
+    auto* control = findChild<QWidget*>(nombre);
+    if (!control) return;
+    // The tab that holds it comes to the front: what is hidden takes no focus.
+    if (fraSolicitud_->isAncestorOf(control)) presentarPestana(0);
+    if (fraModificacion_->isAncestorOf(control)) presentarPestana(1);
+    control->setFocus(Qt::OtherFocusReason);
 }
 
 bool FrmDatGen::NombreVacio() const { return general_.NOMBRE.trimmed().isEmpty(); }

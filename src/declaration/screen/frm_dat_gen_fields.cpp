@@ -150,16 +150,24 @@ void FrmDatGen::conectarCampos() {
     guardia_.Registrar(txtFirmaEnCalidadDe_, [this] { return dejarFirma(); });
     guardia_.Registrar(mskFechaDeclaracion_, [this] { return dejarFechaDeclaracion(); });
     const std::array<FechaConRango, 3> fechas = {{
-        {mskFechaModificacion_, [this] { return general_.FechaModificacion(); },
+        {mskFechaModificacion_,
+         [this] { return general_.FechaModificacion(); },
          [this](qint32 v) {
              general_.FechaModificacion(v);
              AjustarPorFechaModificacion(declaracion_);
          },
-         544, {660, 661, 662}},
-        {mskFechaConst_, [this] { return general_.FechaConstitucion; },
-         [this](qint32 v) { general_.FechaConstitucion = v; }, 544, {770, 771, 789}},
-        {mskFechaInscrip_, [this] { return general_.FechaInscripcion; },
-         [this](qint32 v) { general_.FechaInscripcion = v; }, 777, {774, 771, 789}},
+         544,
+         {660, 661, 662}},
+        {mskFechaConst_,
+         [this] { return general_.FechaConstitucion; },
+         [this](qint32 v) { general_.FechaConstitucion = v; },
+         544,
+         {770, 771, 789}},
+        {mskFechaInscrip_,
+         [this] { return general_.FechaInscripcion; },
+         [this](qint32 v) { general_.FechaInscripcion = v; },
+         777,
+         {774, 771, 789}},
     }};
     for (const auto& datos : fechas)
         guardia_.Registrar(datos.campo, [this, datos] { return dejarFecha(datos); });

@@ -140,8 +140,6 @@ QWidget* FrmDatGen::crearSolicitudes() {
     auto* tarjeta = Encabezado(QStringLiteral("lblTexto4"), fraSolicitud_);
     etiquetas_.emplace_back(numero, TextoNumero);
     etiquetas_.emplace_back(tarjeta, TextoTarjeta);
-    mskFechaConst_ = fecha(QStringLiteral("mskFechaConst"));
-    mskFechaInscrip_ = fecha(QStringLiteral("mskFechaInscrip"));
     const auto casilla = [&](std::size_t i) {
         solicitudes_[i] = new QCheckBox(fraSolicitud_);
         solicitudes_[i]->setObjectName(QString::fromUtf16(CasillasSolicitud()[i].casilla));
@@ -157,10 +155,12 @@ QWidget* FrmDatGen::crearSolicitudes() {
         fila->addStretch(1);
         return fila;
     };
-    // Identifier first, then card; each date under the request that asks for it.
+    // Identifier first, then card; each date under the request that asks for it. Made in that
+    // order, so that Tab visits them like that.
     auto* uno = new QVBoxLayout;
     uno->addWidget(numero);
     uno->addWidget(casilla(0));
+    mskFechaConst_ = fecha(QStringLiteral("mskFechaConst"));
     uno->addLayout(filaFecha(u"lblFechaConstitucion", mskFechaConst_, 768));
     uno->addWidget(casilla(1));
     uno->addWidget(casilla(2));
@@ -168,6 +168,7 @@ QWidget* FrmDatGen::crearSolicitudes() {
     uno->addWidget(tarjeta);
     uno->addWidget(casilla(3));
     uno->addWidget(casilla(4));
+    mskFechaInscrip_ = fecha(QStringLiteral("mskFechaInscrip"));
     uno->addLayout(filaFecha(u"lblFechaInscripcion", mskFechaInscrip_, 769));
     uno->addWidget(casilla(5));
     uno->addStretch(1);
