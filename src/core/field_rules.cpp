@@ -60,7 +60,7 @@ MarcaPareja PresentarParejaSiNo(const QString& valor, bool hayNo, QString valorS
 
 namespace {
 
-double numeroDe(QString texto) {
+double numeroDe(const QString& texto) {
     bool esNumero = false;
     const double numero = texto.trimmed().replace(u',', u'.').toDouble(&esNumero);
     return esNumero && std::isfinite(numero) ? numero : 0;

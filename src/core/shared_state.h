@@ -55,7 +55,6 @@ struct cActOnline {
     void GuardarActOnline(const QString& rutaBDModificacion) const;
 };
 
-
 struct EstadoCompartido {
     EstadoCompartido(Avisador& avisador, Reloj& reloj);
     ~EstadoCompartido();
@@ -69,10 +68,10 @@ struct EstadoCompartido {
     QString VersionPrograma;  ///< three parts, e.g. "1.30.1"
     QString VersionProducto;  ///< four parts; kept, read by nobody
     std::unique_ptr<SvrBaseComunLib::cMiscelaneos> ObjComun;
-    QString CarpetaPrograma;      ///< without a separator at its end
-    QString RutaTablas;           ///< data folder, with a separator at its end
-    QString RutaBDLectura;        ///< path of DPadralLec.mdb
-    QString RutaBDModificacion;   ///< path of DPadralMod.mdb
+    QString CarpetaPrograma;     ///< without a separator at its end
+    QString RutaTablas;          ///< data folder, with a separator at its end
+    QString RutaBDLectura;       ///< path of DPadralLec.mdb
+    QString RutaBDModificacion;  ///< path of DPadralMod.mdb
     qint16 DesplazamientoIdioma = 0;
     QString FormularioOrigen;
     bool ModificacionesPendientes = false;

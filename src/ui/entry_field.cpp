@@ -7,7 +7,7 @@
 #include <QKeyEvent>
 #include <QMenu>
 #include <QMimeData>
-#include <memory>
+#include <utility>
 
 namespace padral {
 
@@ -54,6 +54,10 @@ void CampoEntrada::keyPressEvent(QKeyEvent* evento) {
 }
 
 void CampoEntrada::inputMethodEvent(QInputMethodEvent* evento) {
+    if (isReadOnly()) {
+        evento->ignore();
+        return;
+    }
     QInputMethodEvent limpio(evento->preeditString(), evento->attributes());
     limpio.setCommitString(admitido(evento->commitString()), evento->replacementStart(),
                            evento->replacementLength());
@@ -65,12 +69,11 @@ void CampoEntrada::contextMenuEvent(QContextMenuEvent* evento) {
     QMenu* menu = createStandardContextMenu();
     if (!menu) return;
     menu->setAttribute(Qt::WA_DeleteOnClose);
-    // The menu's own entry would paste past the filter.
-    if (auto* pegar = menu->findChild<QAction*>(QStringLiteral("edit-paste"))) {
-        disconnect(pegar, &QAction::triggered, this, nullptr);
-        connect(pegar, &QAction::triggered, this,
-                [this] { insertar(QGuiApplication::clipboard()->text()); });
-    }
+    // The menu's own entry would paste past the filter. It has no name; its connection tells it.
+    for (QAction* orden : menu->actions())
+        if (disconnect(orden, SIGNAL(triggered()), this, SLOT(paste())))
+            connect(orden, &QAction::triggered, this,
+                    [this] { insertar(QGuiApplication::clipboard()->text()); });
     menu->popup(evento->globalPos());
 }
 

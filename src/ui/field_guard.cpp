@@ -44,8 +44,8 @@ bool esAbandono(Qt::FocusReason motivo) {
 
 GuardiaCampos::GuardiaCampos(QObject* padre) : QObject(padre) { qApp->installEventFilter(this); }
 
-void GuardiaCampos::Registrar(QWidget* campo, Comprobacion alSalir) {
-    campos_.insert(campo, std::move(alSalir));
+void GuardiaCampos::Registrar(QWidget* campo, const Comprobacion& alSalir) {
+    campos_.insert(campo, alSalir);
     connect(campo, &QObject::destroyed, this, [this](QObject* o) { campos_.remove(o); });
 }
 
@@ -56,8 +56,9 @@ void GuardiaCampos::Olvidar(QWidget* pantalla) {
     campos_.removeIf(esDeLaPantalla);
 }
 
-bool GuardiaCampos::ConfirmarCampoEnFoco() {
+bool GuardiaCampos::ConfirmarCampoEnFoco(const QWidget* ventana) {
     QWidget* foco = QApplication::focusWidget();
+    if (!foco && ventana) foco = ventana->focusWidget();
     return !foco || !campos_.contains(foco) || comprobar(foco);
 }
 

@@ -24,11 +24,12 @@ public:
 
     /// `alSalir` stores the value of the field or refuses it. It must do nothing for a value that
     /// is stored already.
-    void Registrar(QWidget* campo, Comprobacion alSalir);
+    void Registrar(QWidget* campo, const Comprobacion& alSalir);
     /// Forgets all fields of a screen that is unloaded; no check of theirs runs any more.
     void Olvidar(QWidget* pantalla);
-    /// Runs the check of the field in focus, if it has one. False: it was refused.
-    bool ConfirmarCampoEnFoco();
+    /// Runs the check of the field in focus, if it has one. False: it was refused. `ventana` tells
+    /// whose field is meant while no window is active.
+    bool ConfirmarCampoEnFoco(const QWidget* ventana = nullptr);
     /// What a button does on a click: the button takes the focus first, and the command runs
     /// unless the field left was refused. `alRechazar` then puts the button back as it was.
     void Orden(QAbstractButton* boton, std::function<void()> orden,

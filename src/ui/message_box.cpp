@@ -60,6 +60,7 @@ Respuesta AvisadorPantalla::Mostrar(const Mensaje& mensaje) {
     const auto lista = botones(mensaje.botones);
     const bool euskera = esEuskera && esEuskera();
     std::vector<QAbstractButton*> puestos;
+    puestos.reserve(lista.size());
     for (const auto& b : lista)
         puestos.push_back(
             caja.addButton(QString::fromUtf16(euskera ? b.euskera : b.castellano), b.papel));

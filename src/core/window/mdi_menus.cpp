@@ -161,7 +161,7 @@ void MDIPadral::DeshabilitarMenus() {
 }
 
 void MDIPadral::orden(const std::function<void()>& hacer) {
-    if (!guardia_.ConfirmarCampoEnFoco()) return;
+    if (!guardia_.ConfirmarCampoEnFoco(this)) return;
     const Espera espera(*this);
     hacer();
 }

@@ -131,7 +131,7 @@ bool MDIPadral::avisarPendientes() {
 
 void MDIPadral::closeEvent(QCloseEvent* evento) {
     if (!cierreDesdeCodigo_) {
-        if (!guardia_.ConfirmarCampoEnFoco()) {
+        if (!guardia_.ConfirmarCampoEnFoco(this)) {
             evento->ignore();
             return;
         }
