@@ -7,6 +7,7 @@
 #include <QDir>
 #include <QFile>
 #include <QMainWindow>
+#include <QProcess>
 #include <QPushButton>
 #include <QTemporaryDir>
 
@@ -41,7 +42,11 @@ double memoria() {
 /// A program folder with fresh data; the big one holds 100 000 declarations.
 class Carpeta {
 public:
-    explicit Carpeta(bool grande) {
+    /// The big one lies in memory where that is to be had: it takes 100 000 transactions.
+    explicit Carpeta(bool grande)
+        : carpeta_(grande && QDir(QStringLiteral("/dev/shm")).exists()
+                       ? QStringLiteral("/dev/shm/padral-XXXXXX")
+                       : QDir::tempPath() + QStringLiteral("/padral-XXXXXX")) {
         QDir(carpeta_.path()).mkpath(QStringLiteral("Tablas"));
         for (const QString& nombre :
              {QStringLiteral("DPadralLec.mdb"), QStringLiteral("DPadralMod.mdb")})
@@ -54,10 +59,7 @@ public:
 
 private:
     void llenar();
-    // In memory where that is to be had: filling the big one takes 100 000 transactions.
-    QTemporaryDir carpeta_{QDir(QStringLiteral("/dev/shm")).exists()
-                               ? QStringLiteral("/dev/shm/padral-XXXXXX")
-                               : QDir::tempPath() + QStringLiteral("/padral-XXXXXX")};
+    QTemporaryDir carpeta_;
 };
 
 struct Banco {
@@ -109,27 +111,37 @@ void pintar(QWidget& ventana) {
     ventana.grab();
 }
 
-void VentanaSola(benchmark::State& estado) {
-    for (auto _ : estado) {
+/// A process that shows a window and ends once it is painted: that of the program, or a bare one.
+int mostrarYAcabar(bool programa, const QString& carpeta) {
+    if (!programa) {
         QMainWindow ventana;
         pintar(ventana);
-    }
-    estado.counters["MiB"] = memoria();
-}
-BENCHMARK(VentanaSola)->Unit(benchmark::kMillisecond);
-
-void ArranqueHastaLaVentana(benchmark::State& estado) {
-    const Carpeta carpeta(false);
-    for (auto _ : estado) {
-        Banco banco(carpeta.ruta());
+    } else {
+        Banco banco(carpeta);
         banco.programa.Iniciar();
         banco.programa.estado().act.ActOnline = 1;
         banco.programa.MostrarVentana();
         pintar(banco.programa.ventana());
     }
-    estado.counters["MiB"] = memoria();
+    return static_cast<int>(memoria());
 }
-BENCHMARK(ArranqueHastaLaVentana)->Unit(benchmark::kMillisecond);
+
+void proceso(benchmark::State& estado, const char* modo) {
+    const Carpeta carpeta(false);
+    int megas = 0;
+    for (auto _ : estado) {
+        QProcess otro;
+        otro.start(QCoreApplication::applicationFilePath(),
+                   {QString::fromLatin1(modo), carpeta.ruta()});
+        otro.waitForFinished();
+        megas = otro.exitCode();
+    }
+    estado.counters["MiB"] = megas;
+}
+void ProcesoConVentanaSola(benchmark::State& estado) { proceso(estado, "--ventana"); }
+void ProcesoDelPrograma(benchmark::State& estado) { proceso(estado, "--programa"); }
+BENCHMARK(ProcesoConVentanaSola)->Unit(benchmark::kMillisecond)->UseRealTime();
+BENCHMARK(ProcesoDelPrograma)->Unit(benchmark::kMillisecond)->UseRealTime();
 
 void LeerFilasConSqlite(benchmark::State& estado) {
     const QByteArray fichero = carpetaGrande().mod().toUtf8();
@@ -184,6 +196,7 @@ BENCHMARK(BuscarPorNombre)->Unit(benchmark::kMillisecond);
 void AbrirLista(benchmark::State& estado) {
     Banco banco(carpetaGrande().ruta());
     banco.programa.Iniciar();
+    banco.programa.estado().act.ActOnline = 1;
     auto& ventana = banco.programa.ventana();
     ventana.resize(1280, 720);
     ventana.show();
@@ -245,6 +258,10 @@ BENCHMARK(ImprimirDosCopias)->Unit(benchmark::kMillisecond);
 int main(int argc, char** argv) {
     const QApplication aplicacion(argc, argv);
     QApplication::setQuitOnLastWindowClosed(false);
+    const auto argumentos = QCoreApplication::arguments();
+    const QString modo = argumentos.value(1);
+    if (modo == QStringLiteral("--ventana") || modo == QStringLiteral("--programa"))
+        return padral::mostrarYAcabar(modo == QStringLiteral("--programa"), argumentos.value(2));
     benchmark::Initialize(&argc, argv);
     benchmark::RunSpecifiedBenchmarks();
     benchmark::Shutdown();

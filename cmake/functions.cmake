@@ -14,6 +14,6 @@ function(padral_test name)
   target_link_libraries(${name} PRIVATE padral_flags ${ARG_LINKS} GTest::gmock)
   target_compile_definitions(${name} PRIVATE
     PADRAL_SOURCE_DIR="${PROJECT_SOURCE_DIR}" PADRAL_BINARY_DIR="${PROJECT_BINARY_DIR}")
-  gtest_discover_tests(${name} DISCOVERY_MODE PRE_TEST
+  gtest_discover_tests(${name} DISCOVERY_MODE PRE_TEST NO_PRETTY_VALUES
     PROPERTIES ENVIRONMENT "QT_QPA_PLATFORM=offscreen" TIMEOUT 120)
 endfunction()

@@ -74,7 +74,8 @@ void Programa::registrarPantallas() {
         return new FrmImOf(contexto, *declaracion_, puertos_.impresora);
     });
     ventana_->primerArranque = [this] {
-        FrmIdioma idioma(estado_, [this] { ponerIdioma(); }, ventana_.get());
+        FrmIdioma idioma(
+            estado_, [this] { ponerIdioma(); }, ventana_.get());
         idioma.exec();
     };
     ventana_->mostrarAcercaDe = [this] { frmAbout(estado_, ventana_.get()).exec(); };

@@ -20,11 +20,14 @@ constexpr int LadoDibujo = 72;
 frmAbout::frmAbout(const EstadoCompartido& estado, QWidget* padre) : QDialog(padre) {
     setObjectName(QStringLiteral("frmAbout"));
     setWindowTitle(estado.Texto(TextoAcercaDe));
-    const auto texto = [&](const QString& es, const QString& eu) { return estado.SegunIdioma(es, eu); };
+    const auto texto = [&](const QString& es, const QString& eu) {
+        return estado.SegunIdioma(es, eu);
+    };
     auto* dibujo = new QLabel(this);
     dibujo->setPixmap(Dibujo(QStringLiteral("program")).pixmap(LadoDibujo, LadoDibujo));
     auto* titulo = Encabezado(QStringLiteral("lblTitle"), this);
-    titulo->setText(texto(QStringLiteral("Declaración Padral."), QStringLiteral("Padral Aitorpena.")));
+    titulo->setText(
+        texto(QStringLiteral("Declaración Padral."), QStringLiteral("Padral Aitorpena.")));
     auto* version = Etiqueta(QStringLiteral("lblVersion"), this);
     version->setText(texto(QStringLiteral("Versión ") + estado.VersionPrograma,
                            estado.VersionPrograma + QStringLiteral(" bertsioa")));

@@ -43,8 +43,8 @@ frmInicio::frmInicio(EstadoCompartido& estado)
                              textos.Texto(CatalogoTextos::DesplazamientoEuskera + TituloPrograma) +
                                  QStringLiteral(" / ") + textos.Texto(TituloPrograma),
                              16));
-    columna->addWidget(linea(
-        u"lblVersion", QStringLiteral("Bertsioa/Versión") + estado.VersionPrograma, 10));
+    columna->addWidget(
+        linea(u"lblVersion", QStringLiteral("Bertsioa/Versión") + estado.VersionPrograma, 10));
     columna->addSpacing(8);
     columna->addWidget(linea(u"Label1", DescripcionEuskera(), 9));
     columna->addWidget(linea(u"lblDescripcion", DescripcionCastellano(), 9));

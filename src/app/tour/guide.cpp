@@ -70,8 +70,7 @@ void Guia::Teclear(const QString& texto) {
 
 void Guia::Ordenar(const QString& accion) {
     auto* entrada = ventana_->findChild<QAction*>(accion);
-    if (!entrada || !entrada->isEnabled())
-        throw GuiaPerdida("no command " + accion.toStdString());
+    if (!entrada || !entrada->isEnabled()) throw GuiaPerdida("no command " + accion.toStdString());
     entrada->trigger();
     Respirar();
 }
@@ -99,9 +98,7 @@ void Guia::Tecla(int tecla) {
     Respirar();
 }
 
-void Guia::ResponderSiguiente(int boton, const QString& foto) {
-    respuestas_.append({boton, foto});
-}
+void Guia::ResponderSiguiente(int boton, const QString& foto) { respuestas_.append({boton, foto}); }
 
 void Guia::AlDialogo(const QString& nombre, std::function<void(QWidget*)> hacer) {
     dialogos_[nombre] = std::move(hacer);

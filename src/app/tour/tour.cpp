@@ -33,7 +33,8 @@ QString carpetaNueva(const QString& salida, const QString& nombre) {
     const QString tablas = carpeta + QStringLiteral("/Tablas");
     QDir().mkpath(tablas);
     const QDir origen(CarpetaEjecutable() + QStringLiteral("/../data"));
-    for (const QString& fichero : {QStringLiteral("DPadralLec.mdb"), QStringLiteral("DPadralMod.mdb")})
+    for (const QString& fichero :
+         {QStringLiteral("DPadralLec.mdb"), QStringLiteral("DPadralMod.mdb")})
         if (!QFile::copy(origen.filePath(fichero), tablas + u'/' + fichero))
             throw GuiaPerdida("cannot copy " + fichero.toStdString());
     return carpeta;
@@ -44,9 +45,8 @@ class Visita {
 public:
     Visita(const QString& salida, const QString& idioma) : salida_(salida), idioma_(idioma) {
         impresora_.UsarPdf(salida);
-        programa_ = std::make_unique<Programa>(
-            Puertos{avisador_, reloj_, impresora_}, CarpetaEjecutable(),
-            carpetaNueva(salida, idioma));
+        programa_ = std::make_unique<Programa>(Puertos{avisador_, reloj_, impresora_},
+                                               CarpetaEjecutable(), carpetaNueva(salida, idioma));
         avisador_.finEspera = [this] { programa_->ventana().CursorEspera(false); };
         avisador_.esEuskera = [this] { return programa_->estado().DesplazamientoIdioma != 0; };
     }
@@ -110,8 +110,8 @@ void Visita::declararEmpresa() {
     nueva();
     foto(QStringLiteral("04-general-data-new"));
     identificar(QStringLiteral("A12345674"), QStringLiteral("Talleres Ibaialde, S.A."),
-                QStringLiteral("2026/0417"), fecha(QStringLiteral("21"), QStringLiteral("11"),
-                                                   QStringLiteral("2026")));
+                QStringLiteral("2026/0417"),
+                fecha(QStringLiteral("21"), QStringLiteral("11"), QStringLiteral("2026")));
     guia_->Pulsar(QStringLiteral("chkDeclaracionModificacion"));
     guia_->Escribir(QStringLiteral("mskFechaModificacion"),
                     fecha(QStringLiteral("02"), QStringLiteral("11"), QStringLiteral("2026")));
@@ -136,8 +136,8 @@ void Visita::declararEmpresa() {
 void Visita::declararPersona() {
     nueva();
     identificar(QStringLiteral("X1234567L"), QStringLiteral("Ñuñez Zubia, Ane"),
-                QStringLiteral("2026/0418"), fecha(QStringLiteral("21"), QStringLiteral("11"),
-                                                   QStringLiteral("2026")));
+                QStringLiteral("2026/0418"),
+                fecha(QStringLiteral("21"), QStringLiteral("11"), QStringLiteral("2026")));
     guia_->Pulsar(QStringLiteral("chkDeclaracionInicio"));
     guia_->Pulsar(QStringLiteral("chkElMismo"));
     guia_->Pulsar(QStringLiteral("cmdAceptar"));
