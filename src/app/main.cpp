@@ -13,8 +13,8 @@ int main(int argc, char** argv) {
     RelojSistema reloj;
     FabricaQt impresora(reloj);
     aplicacion.alFallar = [&avisador](const QString& castellano, const QString& euskera) {
-        avisador.Mostrar({castellano + QStringLiteral("\n\n") + euskera, QStringLiteral("Padral"),
-                          Icono::Error, Botones::Aceptar});
+        avisador.Mostrar({castellano + QStringLiteral("\n\n") + euskera,
+                          QStringLiteral("Declaración Padral"), Icono::Error, Botones::Aceptar});
     };
     int estado = 0;
     aplicacion.Proteger([&] {

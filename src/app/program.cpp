@@ -15,7 +15,8 @@ namespace padral {
 
 Programa::Programa(const Puertos& puertos, const QString& carpetaEjecutable,
                    const QString& carpetaPrograma)
-    : puertos_(puertos),
+    : traspasar(TraspasarDatos),
+      puertos_(puertos),
       carpetaEjecutable_(carpetaEjecutable),
       estado_(puertos.avisador, puertos.reloj),
       lista_(estado_) {
@@ -41,7 +42,10 @@ bool Programa::Iniciar() {
     MarcarInstancia();
     ObtenerVersionPrograma(estado_, carpetaEjecutable_);
     ObtenerRutas(estado_);
-    if (TraspasarDatos(estado_)) return false;
+    {
+        const Espera espera(*ventana_);
+        if (traspasar(estado_)) return false;
+    }
     InicializarSesion(estado_);
     idiomaConocido_ = true;
     ponerIdioma();
@@ -53,8 +57,7 @@ void Programa::MostrarVentana() {
         frmInicio inicio(estado_);
         inicio.Cargar();
     }
-    ventana_->show();
-    ventana_->activateWindow();
+    ventana_->MostrarEnPantalla();
 }
 
 void Programa::ponerIdioma() {
@@ -62,14 +65,17 @@ void Programa::ponerIdioma() {
     ventana_->Anadir_captions();
 }
 
+QWidget* Programa::CrearLista() {
+    return new FrmDecLista({estado_, *ventana_, guardia_}, *declaracion_, lista_);
+}
+
 void Programa::registrarPantallas() {
     const Contexto contexto{estado_, *ventana_, guardia_};
     ventana_->Registrar(QStringLiteral("FrmDatGen"), [this, contexto]() -> QWidget* {
         return new FrmDatGen(contexto, *declaracion_, lista_);
     });
-    ventana_->Registrar(QStringLiteral("FrmDecLista"), [this, contexto]() -> QWidget* {
-        return new FrmDecLista(contexto, *declaracion_, lista_);
-    });
+    ventana_->Registrar(QStringLiteral("FrmDecLista"),
+                        [this]() -> QWidget* { return CrearLista(); });
     ventana_->Registrar(QStringLiteral("FrmImOf"), [this, contexto]() -> QWidget* {
         return new FrmImOf(contexto, *declaracion_, puertos_.impresora);
     });

@@ -1,6 +1,7 @@
 #pragma once
 // The program: builds its objects and wires them, and runs the start in its order.
 
+#include <functional>
 #include <memory>
 
 #include "core/shared_state.h"
@@ -35,6 +36,10 @@ public:
     cDeclaraciones& declaracion() { return *declaracion_; }
     MDIPadral& ventana() { return *ventana_; }
     GuardiaCampos& guardia() { return guardia_; }
+    /// A new list screen, not loaded yet.
+    QWidget* CrearLista();
+    /// The migration of an older store; true ends the process with no message.
+    std::function<bool(EstadoCompartido&)> traspasar;
     /// Whether the language of the run has been read from the store.
     bool IdiomaConocido() const { return idiomaConocido_; }
 

@@ -43,6 +43,7 @@ frmAbout::frmAbout(const EstadoCompartido& estado, QWidget* padre) : QDialog(pad
     connect(cmdOK, &QPushButton::clicked, this, &QDialog::accept);
     auto* columna = new QVBoxLayout;
     for (QWidget* w : {titulo, version, descripcion, copy}) columna->addWidget(w);
+    columna->addStretch(1);
     columna->addSpacing(8);
     columna->addWidget(cmdOK, 0, Qt::AlignRight);
     auto* fila = new QHBoxLayout(this);

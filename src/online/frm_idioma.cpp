@@ -42,6 +42,9 @@ FrmIdioma::FrmIdioma(EstadoCompartido& estado, std::function<void()> alElegir, Q
     todo->setSpacing(14);
     todo->addWidget(marco);
     todo->addLayout(fila);
+    for (QWidget* control :
+         std::initializer_list<QWidget*>{cmdcastellano_, cmdeuskera_, chkActOnline_})
+        control->installEventFilter(this);
     connect(cmdcastellano_, &QPushButton::clicked, this, [this] { elegir(QStringLiteral("C")); });
     connect(cmdeuskera_, &QPushButton::clicked, this, [this] { elegir(QStringLiteral("E")); });
     // Ticking the box in code counts as its click: a fresh store goes from -1 to 1 here.
@@ -66,11 +69,18 @@ void FrmIdioma::showEvent(QShowEvent* evento) {
     (castellano ? cmdcastellano_ : cmdeuskera_)->setFocus();
 }
 
+bool FrmIdioma::eventFilter(QObject*, QEvent* evento) {
+    if (evento->type() != QEvent::KeyPress) return false;
+    const int tecla = static_cast<QKeyEvent*>(evento)->key();
+    if (tecla != Qt::Key_Return && tecla != Qt::Key_Enter) return false;
+    // Before the control sees it: on some desktops Enter presses buttons and ticks boxes.
+    focusNextChild();
+    return true;
+}
+
 void FrmIdioma::keyPressEvent(QKeyEvent* evento) {
-    if (evento->key() == Qt::Key_Return || evento->key() == Qt::Key_Enter)
-        focusNextChild();
-    else if (evento->key() != Qt::Key_Escape)
-        QDialog::keyPressEvent(evento);
+    // There is nothing to cancel here: a language has to be chosen.
+    if (evento->key() != Qt::Key_Escape) QDialog::keyPressEvent(evento);
 }
 
 }  // namespace padral

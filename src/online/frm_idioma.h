@@ -18,6 +18,7 @@ public:
 
 protected:
     void showEvent(QShowEvent* evento) override;
+    bool eventFilter(QObject* control, QEvent* evento) override;
     void keyPressEvent(QKeyEvent* evento) override;
 
 private:

@@ -49,6 +49,7 @@ frmInicio::frmInicio(EstadoCompartido& estado)
     columna->addWidget(linea(u"Label1", DescripcionEuskera(), 9));
     columna->addWidget(linea(u"lblDescripcion", DescripcionCastellano(), 9));
     columna->addWidget(linea(u"lblcopy", LineaCopyright(), 9));
+    columna->addStretch(1);
     auto* fila = new QHBoxLayout(this);
     fila->setContentsMargins(28, 28, 28, 28);
     fila->setSpacing(28);

@@ -3,6 +3,7 @@
 
 #include <QApplication>
 #include <QTextStream>
+#include <QTimer>
 
 #include "app/application.h"
 #include "app/program.h"
@@ -31,7 +32,7 @@ public:
 
 /// What the user does before the program ends.
 void actuar(Programa& programa, Guia& guia, const QString& accion) {
-    if (accion == QStringLiteral("start")) return;
+    if (accion == QStringLiteral("start") || accion == QStringLiteral("exec")) return;
     guia.Ordenar(QStringLiteral("Nueva"));
     guia.Escribir(QStringLiteral("txtDNI"), QStringLiteral("12345678Z"));
     guia.Escribir(QStringLiteral("txtNombre"), QStringLiteral("Lasa Etxe, Jon"));
@@ -64,6 +65,8 @@ int probar(Aplicacion& aplicacion, const QStringList& argumentos) {
     aplicacion.alFallar = [&](const QString& castellano, const QString& euskera) {
         MostrarFallo(programa.estado(), programa.IdiomaConocido(), castellano, euskera);
     };
+    if (argumentos.value(3) == QStringLiteral("stop"))
+        programa.traspasar = [](EstadoCompartido&) { return true; };
     bool seguir = false;
     aplicacion.Proteger([&] { seguir = programa.Iniciar(); });
     if (!seguir) return 0;
@@ -75,6 +78,11 @@ int probar(Aplicacion& aplicacion, const QStringList& argumentos) {
     });
     guia.TomarVentana();
     aplicacion.Proteger([&] { actuar(programa, guia, argumentos.value(3)); });
+    if (argumentos.value(3) == QStringLiteral("exec")) {
+        // As a click on the window's own close button while the program waits for the user.
+        QTimer::singleShot(0, &programa.ventana(), [&] { programa.ventana().close(); });
+        return QApplication::exec();
+    }
     QTextStream(stdout) << (programa.ventana().isVisible() ? "WINDOW OPEN" : "WINDOW CLOSED")
                         << Qt::endl;
     return 0;

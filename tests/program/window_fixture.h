@@ -47,8 +47,9 @@ protected:
         estado().act.ActOnline = 1;
         estado().act.GuardarActOnline(estado().RutaBDModificacion);
         ventana().Anadir_captions();
-        ventana().resize(1280, 720);
         programa_->MostrarVentana();
+        ventana().showNormal();
+        ventana().resize(1280, 720);
         guia_ = std::make_unique<Guia>(&ventana());
         guia_->TomarVentana();
     }
@@ -80,6 +81,13 @@ protected:
         guia().Pulsar(QStringLiteral("chkDeclaracionInicio"));
         guia().Pulsar(QStringLiteral("chkElMismo"));
         guia().Pulsar(QStringLiteral("cmdAceptar"));
+    }
+    /// Notes whether changes were pending at the moment the list is made.
+    void pendientesAlMostrar(bool* pendientes) {
+        ventana().Registrar(QStringLiteral("FrmDecLista"), [this, pendientes]() -> QWidget* {
+            *pendientes = estado().ModificacionesPendientes;
+            return programa_->CrearLista();
+        });
     }
     const QString& texto(int id) { return estado().Texto(id); }
 

@@ -106,7 +106,8 @@ void Guia::AlDialogo(const QString& nombre, std::function<void(QWidget*)> hacer)
 
 void Guia::vigilar() {
     QWidget* modal = QApplication::activeModalWidget();
-    if (!modal || !modal->isVisible() || modal == atendido_) return;
+    // One that is not active yet has given the focus to nothing.
+    if (!modal || !modal->isActiveWindow() || modal == atendido_) return;
     if (modal->inherits("QMessageBox")) {
         atendido_ = modal;
         atenderMensaje(modal);

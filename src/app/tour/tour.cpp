@@ -89,8 +89,10 @@ void Visita::arrancar() {
         guia_->Pulsar(castellano ? QStringLiteral("cmdcastellano") : QStringLiteral("cmdeuskera"));
         Q_UNUSED(dialogo)
     });
-    programa_->ventana().resize(1280, 720);
     programa_->MostrarVentana();
+    // The offscreen display is smaller than the smallest that the program is made for.
+    programa_->ventana().showNormal();
+    programa_->ventana().resize(1280, 720);
     for (int i = 0; i < 50 && programa_->estado().act.ActOnline < 0; ++i) guia_->Respirar();
     guia_->TomarVentana();
     foto(QStringLiteral("03-main-window"));
@@ -118,7 +120,6 @@ void Visita::declararEmpresa() {
     guia_->Pulsar(QStringLiteral("chkPorDefinitivo"));
     guia_->Escribir(QStringLiteral("mskFechaInscrip"),
                     fecha(QStringLiteral("15"), QStringLiteral("10"), QStringLiteral("2026")));
-    guia_->Pulsar(QStringLiteral("chkApartado2"));
     guia_->ElegirPestana(QStringLiteral("Pestaña"), 1);
     guia_->ElegirEnCombo(QStringLiteral("cmbMotivoCambio"), QStringLiteral("20"));
     guia_->Escribir(QStringLiteral("txtNombreAnterior"), QStringLiteral("Talleres Mendi, S.A."));
@@ -161,6 +162,7 @@ void Visita::imprimir() {
     foto(QStringLiteral("12-print-dialog"));
     guia_->ResponderSiguiente(0, idioma_ + QStringLiteral("-13-printed"));
     guia_->Pulsar(QStringLiteral("btnAceptar"));
+    foto(QStringLiteral("14-after-printing"));
     guia_->Pulsar(QStringLiteral("cmdCancelar"));
 }
 

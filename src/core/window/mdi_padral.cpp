@@ -4,6 +4,7 @@
 #include <QCloseEvent>
 #include <QDialog>
 #include <QMenu>
+#include <QScreen>
 #include <QScrollArea>
 #include <QStackedWidget>
 #include <QTimer>
@@ -34,9 +35,29 @@ MDIPadral::MDIPadral(EstadoCompartido& estado, GuardiaCampos& guardia, OrdenesDe
     crearMenus();
     crearBarra();
     Anadir_captions();
+    // Until the first activation has counted the declarations.
+    activarDeclaraciones(false);
+    connect(qApp, &QApplication::focusChanged, this,
+            [this](QWidget*, QWidget* ahora) { tenerALaVista(ahora); });
 }
 
 MDIPadral::~MDIPadral() = default;
+
+void MDIPadral::MostrarEnPantalla() {
+    const QSize hueco = screen()->availableGeometry().size();
+    const bool cabe = hueco.width() >= sizeHint().width() && hueco.height() >= sizeHint().height();
+    resize(sizeHint().boundedTo(hueco));
+    if (cabe)
+        show();
+    else
+        showMaximized();
+    activateWindow();
+}
+
+void MDIPadral::tenerALaVista(QWidget* control) {
+    auto* pagina = qobject_cast<QScrollArea*>(paginas_->currentWidget());
+    if (pagina && control && pagina->isAncestorOf(control)) pagina->ensureWidgetVisible(control);
+}
 
 void MDIPadral::Registrar(const QString& nombre, std::function<QWidget*()> fabrica) {
     fabricas_[nombre] = std::move(fabrica);
@@ -131,6 +152,11 @@ bool MDIPadral::avisarPendientes() {
 
 void MDIPadral::closeEvent(QCloseEvent* evento) {
     if (!cierreDesdeCodigo_) {
+        // A command is under way: the click is dropped like any other.
+        if (esperando_) {
+            evento->ignore();
+            return;
+        }
         if (!guardia_.ConfirmarCampoEnFoco(this)) {
             evento->ignore();
             return;

@@ -41,6 +41,8 @@ public:
     std::function<void()> mostrarAcercaDe;
 
     void Anadir_captions();
+    /// Shows the window in its own size, or over the whole screen where that is smaller.
+    void MostrarEnPantalla();
     /// Unloads every screen and dialog whose name differs.
     void DescargarTodosLosFormularios(const QString& nombre);
     bool HayModificaciones() const { return ordenes_.hayModificaciones(); }
@@ -70,6 +72,7 @@ private:
     void primeraActivacion();
     bool avisarPendientes();
     void enfocar(Pantalla* pantalla);
+    void tenerALaVista(QWidget* control);
     void activarDeclaraciones(bool activo);
 
     EstadoCompartido& estado_;
