@@ -154,14 +154,27 @@ TEST(Imagenes, TamanosNaturales) {
     }
 }
 
-TEST(Imagenes, TextosDeLosTitulosDeCopia) {
-    const std::pair<const char16_t*, const char16_t*> filas[] = {
-        {u"Administracion", u"Administrazioarentzako alea / Ejemplar para la Administración"},
-        {u"Interesado", u"Aitortzailearentzako alea / Ejemplar para el interesado"},
-        {u"Borrador", u"Zirriborroa / Borrador"},
+struct FilaRotulo {
+    const char16_t *nombre, *primera, *segunda;
+};
+TEST(Imagenes, TextosDeLosRotulosGirados) {
+    const FilaRotulo filas[] = {
+        {u"Diputacion", nullptr, nullptr},
+        {u"ParaAdministracion", u"Administrazioarentzat /", u"Para la Administración"},
+        {u"Participe", u"PARTAIDEA / PARTICIPE", nullptr},
+        {u"DomicilioFiscal", u"ZERGA HELBIDEA /", u"DOMICILIO FISCAL"},
+        {u"Administracion", u"Administrazioarentzako alea / Ejemplar para la Administración",
+         nullptr},
+        {u"Interesado", u"Aitortzailearentzako alea / Ejemplar para el interesado", nullptr},
+        {u"Borrador", u"Zirriborroa / Borrador", nullptr},
+        {u"Banco", u"Bankuarentzako alea / Ejemplar para el banco", nullptr},
+        {u"Informatica", u"Informatikarako alea / Ejemplar para informática", nullptr},
     };
-    for (const auto& [nombre, texto] : filas)
-        EXPECT_EQ(QStringView(BuscarImagen(nombre).lineas[0]), QStringView(texto));
+    for (const auto& fila : filas) {
+        const auto& lineas = BuscarImagen(fila.nombre).lineas;
+        EXPECT_EQ(QStringView(lineas[0]), QStringView(fila.primera));
+        EXPECT_EQ(QStringView(lineas[1]), QStringView(fila.segunda));
+    }
 }
 
 }  // namespace

@@ -2,6 +2,7 @@
 
 #include <QBoxLayout>
 #include <QCheckBox>
+#include <QDir>
 #include <QGroupBox>
 #include <QPushButton>
 #include <QRadioButton>
@@ -33,6 +34,12 @@ template <class Boton>
 Boton* conNombre(Boton* boton, const QString& nombre) {
     boton->setObjectName(nombre);
     return boton;
+}
+
+/// The name as it shows: no line ends at its hyphens.
+QString EnUnaLinea(QString nombre) {
+    const QString unido = QStringLiteral("-\u2060");  // word joiner
+    return nombre.replace(QStringLiteral("-"), unido);
 }
 
 }  // namespace
@@ -100,7 +107,7 @@ QWidget* FrmImOf::conImagen(const QString& nombre, const QString& dibujo, QPushB
 }
 
 QWidget* FrmImOf::crearBotones() {
-    btnAceptar_ = boton(QStringLiteral("btnAceptar"), [this] { imprimir(); });
+    btnAceptar_ = boton(QStringLiteral("btnAceptar"), [this] { Aceptar(); });
     btnCancelar_ = boton(QStringLiteral("btnCancelar"), [this] { reject(); });
     auto* fila = new QWidget(this);
     auto* caja = new QHBoxLayout(fila);
@@ -129,7 +136,7 @@ OpcionesImpresion FrmImOf::opciones() const {
             chkCopiaInteresado_->isChecked()};
 }
 
-void FrmImOf::imprimir() {
+void FrmImOf::Aceptar() {
     const Espera espera(pantallas_);
     if (!ValidarCopias(opciones())) {
         estado_.Avisar(702, 703);
@@ -141,17 +148,24 @@ void FrmImOf::imprimir() {
     accept();
 }
 
-// The documents that became files; nothing for those that went to a printer.
+// The documents that became files, all in one folder; nothing for those that went to a printer.
 void FrmImOf::avisarFicheros() {
     const QStringList ficheros = destino_.TomarFicheros();
     if (ficheros.isEmpty()) return;
     const bool varios = ficheros.size() > 1;
     const QString aviso = estado_.SegunIdioma(
-        varios ? QStringLiteral("La declaración se ha guardado en estos ficheros PDF:\n")
-               : QStringLiteral("La declaración se ha guardado en este fichero PDF:\n"),
-        varios ? QStringLiteral("Aitorpena PDF fitxategi hauetan gorde da:\n")
-               : QStringLiteral("Aitorpena PDF fitxategi honetan gorde da:\n"));
-    estado_.Avisar(aviso + ficheros.join(u'\n'), estado_.Texto(TituloFormulario));
+        varios ? QStringLiteral("La declaración se ha guardado en la carpeta\n%1\n"
+                                "en estos ficheros PDF:")
+               : QStringLiteral("La declaración se ha guardado en la carpeta\n%1\n"
+                                "en este fichero PDF:"),
+        varios ? QStringLiteral("Aitorpena karpeta honetan gorde da:\n%1\n"
+                                "PDF fitxategi hauetan:")
+               : QStringLiteral("Aitorpena karpeta honetan gorde da:\n%1\n"
+                                "PDF fitxategi honetan:"));
+    const QString carpeta = QDir::toNativeSeparators(QFileInfo(ficheros.first()).path());
+    QStringList lineas{aviso.arg(carpeta)};
+    for (const QString& fichero : ficheros) lineas << EnUnaLinea(QFileInfo(fichero).fileName());
+    estado_.Avisar(lineas.join(u'\n'), estado_.Texto(TituloFormulario));
 }
 
 // Both buttons, Esc and the window's X end here.
@@ -159,6 +173,7 @@ void FrmImOf::done(int resultado) {
     if (cerrado_) return;
     cerrado_ = true;
     QDialog::done(resultado);
+    destino_.OlvidarNombre();
     declaracion_.InicializarDeclaracion();
     declaracion_.LimpiarModos();
     declaracion_.Modo = QStringLiteral("C");

@@ -26,6 +26,8 @@ public:
 
     /// Captions and tool tips in the language of the run.
     void Anadir_captions();
+    /// The command of `btnAceptar`: prints the copies asked for and closes, unless none is.
+    void Aceptar();
     void done(int resultado) override;
 
 private:
@@ -36,7 +38,6 @@ private:
     QPushButton* boton(const QString& nombre, std::function<void()> orden);
     QWidget* conImagen(const QString& nombre, const QString& dibujo, QPushButton* suBoton);
     OpcionesImpresion opciones() const;
-    void imprimir();
     void avisarFicheros();
 
     EstadoCompartido& estado_;

@@ -15,6 +15,9 @@ public:
     virtual void Elegir(QWidget* padre) = 0;
     /// Full names of the PDF files made since the last call.
     virtual QStringList TomarFicheros() = 0;
+    /// The print dialog closes: a file name that the user typed was for this print alone.
+    /// A destination that makes no files has nothing to forget.
+    virtual void OlvidarNombre() {}
 };
 
 }  // namespace padral

@@ -5,9 +5,9 @@
 #include <QPrinterInfo>
 #include <QRegularExpression>
 #include <QStandardPaths>
-#include <algorithm>
 
 #include "platform/failure.h"
+#include "printing/ui/paper.h"
 #include "printing/ui/qt_printer.h"
 
 namespace padral {
@@ -16,6 +16,13 @@ namespace {
 std::shared_ptr<QPrinter> NuevaImpresora(const QString& cola) {
     auto impresora = std::make_shared<QPrinter>(QPrinter::HighResolution);
     impresora->setPrinterName(cola);
+    return impresora;
+}
+
+std::shared_ptr<QPrinter> ImpresoraPdf(const QString& fichero) {
+    auto impresora = std::make_shared<QPrinter>(QPrinter::HighResolution);
+    impresora->setOutputFormat(QPrinter::PdfFormat);
+    impresora->setOutputFileName(fichero);
     return impresora;
 }
 
@@ -29,20 +36,20 @@ void ComprobarCola(const QString& cola) {
                 QStringLiteral("\"%1\" inprimagailua ez dago erabilgarri.").arg(cola));
 }
 
-/// As small as the device allows. The file has the widest margin: it is meant for paper later.
-QPointF Margen(const QPrinter& impresora) {
-    if (impresora.outputFormat() == QPrinter::PdfFormat) return {MargenMaximo, MargenMaximo};
-    QPageLayout hoja = impresora.pageLayout();
-    hoja.setUnits(QPageLayout::Millimeter);
-    const QMarginsF minimo = hoja.minimumMargins();
-    return {std::min(minimo.left(), MargenMaximo), std::min(minimo.top(), MargenMaximo)};
-}
-
 /// The letters, digits and hyphens of a text, for a file name.
 QString ParaFichero(QString texto) {
     static const QRegularExpression otros(QStringLiteral("[^\\w-]"),
                                           QRegularExpression::UseUnicodePropertiesOption);
     return texto.replace(otros, QStringLiteral("_"));
+}
+
+/// Name of a file before its code, as the printer dialog proposes it.
+constexpr const char16_t* NombrePropuesto = u"417";
+const QString FinPdf = QStringLiteral(".pdf");
+
+QString SinPdf(QString nombre) {
+    if (nombre.endsWith(FinPdf, Qt::CaseInsensitive)) nombre.chop(FinPdf.size());
+    return nombre;
 }
 
 }  // namespace
@@ -51,27 +58,34 @@ void FabricaQt::UsarCola(const QString& nombre) {
     elegida_.reset();
     pdf_ = false;
     cola_ = nombre;
+    OlvidarNombre();
 }
 
 void FabricaQt::UsarPdf(const QString& carpeta) {
     elegida_.reset();
     pdf_ = true;
     carpeta_ = carpeta;
+    OlvidarNombre();
 }
 
 QStringList FabricaQt::TomarFicheros() { return std::exchange(ficheros_, {}); }
+
+void FabricaQt::OlvidarNombre() { nombre_.clear(); }
 
 QString FabricaQt::carpetaPdf() const {
     return carpeta_.isEmpty() ? QStandardPaths::writableLocation(QStandardPaths::DocumentsLocation)
                               : carpeta_;
 }
 
+QString FabricaQt::raizFichero(const QString& titulo) const {
+    if (!nombre_.isEmpty()) return nombre_ + u'-' + titulo.section(u'-', -1);
+    return ParaFichero(titulo) + reloj_.Ahora().toString(QStringLiteral("-yyyyMMdd-HHmmss"));
+}
+
 // A file that is there is never written over.
 QString FabricaQt::ficheroNuevo(const QString& titulo) const {
-    const QString raiz = QStringLiteral("%1/%2-%3")
-                             .arg(carpetaPdf(), ParaFichero(titulo),
-                                  reloj_.Ahora().toString(QStringLiteral("yyyyMMdd-HHmmss")));
-    QString fichero = raiz + QStringLiteral(".pdf");
+    const QString raiz = QDir(carpetaPdf()).filePath(raizFichero(titulo));
+    QString fichero = raiz + FinPdf;
     for (int n = 2; QFile::exists(fichero); ++n)
         fichero = QStringLiteral("%1-%2.pdf").arg(raiz).arg(n);
     return fichero;
@@ -82,10 +96,7 @@ std::shared_ptr<QPrinter> FabricaQt::impresoraPdf(const QString& titulo) {
     if (!QDir().mkpath(carpeta))
         throw Fallo(QStringLiteral("No se ha podido crear la carpeta %1.").arg(carpeta),
                     QStringLiteral("Ezin izan da %1 karpeta sortu.").arg(carpeta));
-    auto impresora = std::make_shared<QPrinter>(QPrinter::HighResolution);
-    impresora->setOutputFormat(QPrinter::PdfFormat);
-    impresora->setOutputFileName(ficheroNuevo(titulo));
-    return impresora;
+    return ImpresoraPdf(ficheroNuevo(titulo));
 }
 
 QString FabricaQt::cola() const {
@@ -103,33 +114,45 @@ std::unique_ptr<Impresora> FabricaQt::Abrir(const QString& titulo) {
     if (!nombre.isEmpty()) ComprobarCola(nombre);
     auto impresora = nombre.isEmpty() ? impresoraPdf(titulo) : impresoraDeCola(nombre);
     impresora->setDocName(titulo);
-    impresora->setFullPage(true);
-    impresora->setPageSize(QPageSize(QPageSize::A4));
+    PonerHoja(*impresora);
     if (!impresora->outputFileName().isEmpty())
         ficheros_ << QDir::toNativeSeparators(impresora->outputFileName());
-    const QPointF margen = Margen(*impresora);
+    const QPointF margen = MargenDe(*impresora);
     return std::make_unique<ImpresoraQt>(std::move(impresora), margen);
+}
+
+// The dialog changes this printer while the user looks around.
+std::shared_ptr<QPrinter> FabricaQt::impresoraDelDialogo(const QString& cola) const {
+    const QString propuesto = QString::fromUtf16(NombrePropuesto);
+    const QString nombre = nombre_.isEmpty() ? propuesto : nombre_;
+    auto impresora = ExisteCola(cola) ? impresoraDeCola(cola)
+                                      : ImpresoraPdf(QDir(carpetaPdf()).filePath(nombre + FinPdf));
+    // The name that the dialog proposes when the user passes from a queue to a file.
+    impresora->setDocName(propuesto);
+    return impresora;
+}
+
+void FabricaQt::tomarEleccion(const std::shared_ptr<QPrinter>& impresora) {
+    if (impresora->outputFormat() != QPrinter::PdfFormat) {
+        UsarCola(impresora->printerName());
+        elegida_ = impresora;
+        return;
+    }
+    const QFileInfo fichero(impresora->outputFileName());
+    UsarPdf(fichero.absolutePath());
+    nombre_ = SinPdf(fichero.fileName());
+    if (nombre_ == QStringView(NombrePropuesto)) OlvidarNombre();
 }
 
 void FabricaQt::Elegir(QWidget* padre) {
     const QString actual = cola();
-    std::shared_ptr<QPrinter> impresora;
-    if (ExisteCola(actual)) {
-        impresora = impresoraDeCola(actual);
-    } else {
-        impresora = std::make_shared<QPrinter>(QPrinter::HighResolution);
-        impresora->setOutputFormat(QPrinter::PdfFormat);
-        impresora->setOutputFileName(carpetaPdf() + QStringLiteral("/417.pdf"));
-    }
+    const auto impresora = impresoraDelDialogo(actual);
     QPrintDialog dialogo(impresora.get(), padre);
     dialogo.setOptions(QAbstractPrintDialog::PrintToFile);
-    if (dialogo.exec() != QDialog::Accepted) return;
-    if (impresora->outputFormat() == QPrinter::PdfFormat) {
-        UsarPdf(QFileInfo(impresora->outputFileName()).absolutePath());
-        return;
-    }
-    elegida_ = impresora;
-    pdf_ = false;
+    if (dialogo.exec() == QDialog::Accepted)
+        tomarEleccion(impresora);
+    else if (elegida_ != nullptr)
+        elegida_ = NuevaImpresora(actual);  // what the user looked at before cancelling is gone
 }
 
 }  // namespace padral

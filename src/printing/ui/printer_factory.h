@@ -10,7 +10,10 @@ namespace padral {
 
 /// Asks the system for its printers only when something is printed or the user chooses. Without
 /// a default printer on the system documents become PDF files in the user's documents folder,
-/// named by form, identifier, copy and time.
+/// named by form, identifier, copy and time; also when printers are installed but none of them is
+/// the default one: the program does not pick one for the user, who finds them in the dialog.
+/// A file name that the user types there gets the code of the copy ("ibaialde-AD.pdf"). No file
+/// is ever written over.
 class FabricaQt : public DestinoImpresion {
 public:
     explicit FabricaQt(const Reloj& reloj) : reloj_(reloj) {}
@@ -19,6 +22,7 @@ public:
     std::unique_ptr<Impresora> Abrir(const QString& titulo) override;
     void Elegir(QWidget* padre) override;
     QStringList TomarFicheros() override;
+    void OlvidarNombre() override;
 
     /// Documents go to that queue of the system.
     void UsarCola(const QString& nombre);
@@ -31,13 +35,17 @@ private:
     std::shared_ptr<QPrinter> impresoraDeCola(const QString& nombre) const;
     std::shared_ptr<QPrinter> impresoraPdf(const QString& titulo);
     QString carpetaPdf() const;
+    QString raizFichero(const QString& titulo) const;
     QString ficheroNuevo(const QString& titulo) const;
+    std::shared_ptr<QPrinter> impresoraDelDialogo(const QString& cola) const;
+    void tomarEleccion(const std::shared_ptr<QPrinter>& impresora);
 
     const Reloj& reloj_;
     std::shared_ptr<QPrinter> elegida_;  ///< with the settings of the printer dialog
     QString cola_;                       ///< empty: the system's default printer
     bool pdf_ = false;
     QString carpeta_;
+    QString nombre_;  ///< of the files, as typed by the user; empty: the program's own
     QStringList ficheros_;
 };
 

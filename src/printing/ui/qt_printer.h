@@ -11,9 +11,6 @@
 
 namespace padral {
 
-/// Widest margin that leaves room for the form (196.2 x 285 mm on A4).
-inline constexpr double MargenMaximo = 5;
-
 /// A page is kept until it ends and then painted in one go, so that a page given up half-way
 /// never reaches the paper.
 class ImpresoraQt : public Impresora {

@@ -3,7 +3,10 @@
 #include <gtest/gtest.h>
 
 #include <QApplication>
-#include <QDialog>
+#include <QComboBox>
+#include <QLineEdit>
+#include <QPrintDialog>
+#include <QTemporaryDir>
 #include <QTimer>
 
 #include "core/shared_state.h"
@@ -83,16 +86,69 @@ TEST_F(Cups, UnaColaQueNoAceptaTrabajosLoDice) {
     EXPECT_THROW(Imprime(QStringLiteral("AD")), Fallo);
 }
 
-TEST_F(Cups, LaColaElegidaSirveParaVariosDocumentos) {
-    QTimer::singleShot(0, qApp, [] {
-        auto* dialogo = qobject_cast<QDialog*>(QApplication::activeModalWidget());
+/// Does that in the printer dialog as soon as it shows.
+void EnElDialogo(const std::function<void(QPrintDialog*)>& hacer) {
+    QTimer::singleShot(0, qApp, [hacer] {
+        auto* dialogo = qobject_cast<QPrintDialog*>(QApplication::activeModalWidget());
         ASSERT_NE(dialogo, nullptr);
-        dialogo->accept();
+        hacer(dialogo);
     });
+}
+
+TEST_F(Cups, LaColaElegidaSirveParaVariosDocumentos) {
+    EnElDialogo([](QPrintDialog* dialogo) { dialogo->accept(); });
     fabrica.Elegir(nullptr);
     Imprime(QStringLiteral("AD"));
     Imprime(QStringLiteral("IT"));
     EXPECT_EQ(servidor.EsperarFicheros(2).size(), 2);
+}
+
+TEST_F(Cups, ElImpresoSaleDerechoDejeLoQueDejeElDialogo) {
+    EnElDialogo([](QPrintDialog* dialogo) {
+        dialogo->accept();
+        dialogo->printer()->setPageSize(QPageSize(QPageSize::A3));
+        dialogo->printer()->setPageOrientation(QPageLayout::Landscape);
+    });
+    fabrica.Elegir(nullptr);
+    Imprime(QStringLiteral("AD"));
+    const QStringList ficheros = servidor.EsperarFicheros(1);
+    ASSERT_EQ(ficheros.size(), 1);
+    EXPECT_NEAR(HojaPdf(ficheros[0]).width(), 210, 0.5);
+    EXPECT_NEAR(HojaPdf(ficheros[0]).height(), 297, 0.5);
+    const QRectF lugar = LugarPalabra(ficheros[0], datos.DNI);
+    EXPECT_LE(lugar.left(), 7.3);
+    EXPECT_GT(lugar.width(), lugar.height());
+}
+
+TEST_F(Cups, CancelarTrasMirarElPdfDejaLaCola) {
+    EnElDialogo([](QPrintDialog* dialogo) { dialogo->accept(); });
+    fabrica.Elegir(nullptr);
+    EnElDialogo([](QPrintDialog* dialogo) {
+        auto* colas = dialogo->findChild<QComboBox*>(QStringLiteral("printers"));
+        ASSERT_NE(colas, nullptr);
+        colas->setCurrentIndex(colas->count() - 1);
+        dialogo->reject();
+    });
+    fabrica.Elegir(nullptr);
+    Imprime(QStringLiteral("AD"));
+    EXPECT_TRUE(fabrica.TomarFicheros().isEmpty());
+    EXPECT_EQ(servidor.EsperarFicheros(1).size(), 1);
+}
+
+TEST_F(Cups, DeLaColaSePasaAUnFicheroConNombre) {
+    QTemporaryDir carpeta;
+    const QString nombre = carpeta.filePath(QStringLiteral("ibaialde.pdf"));
+    EnElDialogo([nombre](QPrintDialog* dialogo) {
+        auto* colas = dialogo->findChild<QComboBox*>(QStringLiteral("printers"));
+        ASSERT_NE(colas, nullptr);
+        colas->setCurrentIndex(colas->count() - 1);
+        dialogo->findChild<QLineEdit*>(QStringLiteral("filename"))->setText(nombre);
+        dialogo->accept();
+    });
+    fabrica.Elegir(nullptr);
+    Imprime(QStringLiteral("AD"));
+    EXPECT_EQ(fabrica.TomarFicheros(),
+              QStringList(carpeta.filePath(QStringLiteral("ibaialde-AD.pdf"))));
 }
 
 }  // namespace

@@ -8,6 +8,7 @@
 #include <QGroupBox>
 #include <QPushButton>
 #include <QRadioButton>
+#include <QScreen>
 #include <QtTest/QTest>
 
 #include "platform/failure.h"
@@ -21,6 +22,7 @@ class DestinoRegistro : public DestinoImpresion {
 public:
     FabricaRegistro fabrica;
     int elecciones = 0;
+    int olvidos = 0;
     QStringList ficheros;
 
     std::unique_ptr<Impresora> Abrir(const QString& titulo) override {
@@ -31,6 +33,7 @@ public:
         ++elecciones;
     }
     QStringList TomarFicheros() override { return std::exchange(ficheros, {}); }
+    void OlvidarNombre() override { ++olvidos; }
 };
 
 class Dialogo : public testing::Test {
@@ -213,25 +216,82 @@ TEST_F(Dialogo, EleccionDeImpresora) {
     EXPECT_EQ(pantallas.EsperasTotales, 0);
 }
 
+/// As the user reads it: the mark that keeps a name on its line does not show.
+QString Leido(QString texto) { return texto.remove(QChar(0x2060)); }
+
 TEST_F(Dialogo, DiceDondeEstanLosFicheros) {
-    destino.ficheros = {QStringLiteral("uno.pdf"), QStringLiteral("dos.pdf")};
-    avisos.Espera(QStringLiteral("La declaración se ha guardado en estos ficheros PDF:\n"
-                                 "uno.pdf\ndos.pdf"),
+    destino.ficheros = {QStringLiteral("/casa/mis-pdf/417-1-AD.pdf"),
+                        QStringLiteral("/casa/mis-pdf/ibaialde.pdf")};
+    avisos.alMostrar = [](const Mensaje& mensaje) {
+        EXPECT_EQ(Leido(mensaje.texto),
+                  u"La declaración se ha guardado en la carpeta\n"
+                  u"/casa/mis-pdf\n"
+                  u"en estos ficheros PDF:\n"
+                  u"417-1-AD.pdf\n"
+                  u"ibaialde.pdf");
+    };
+    // A line may break after a hyphen: not in the names.
+    avisos.Espera(QStringLiteral("La declaración se ha guardado en la carpeta\n/casa/mis-pdf\n"
+                                 "en estos ficheros PDF:\n"
+                                 "417-\u20601-\u2060AD.pdf\nibaialde.pdf"),
                   QStringLiteral(" IMPRESIÓN"));
     Pulsar(u"btnAceptar");
     EsperaCicloNuevo();
-    estado.DesplazamientoIdioma = CatalogoTextos::DesplazamientoEuskera;
-    SetUp();
-    destino.ficheros = {QStringLiteral("uno.pdf")};
-    avisos.Espera(QStringLiteral("Aitorpena PDF fitxategi honetan gorde da:\nuno.pdf"),
-                  estado.textos.Texto(10594));
-    Pulsar(u"btnAceptar");
 }
 
+TEST_F(Dialogo, UnSoloFichero) {
+    const std::pair<bool, QString> filas[] = {
+        {false, QStringLiteral("La declaración se ha guardado en la carpeta\n/casa\n"
+                               "en este fichero PDF:\nuno.pdf")},
+        {true, QStringLiteral("Aitorpena karpeta honetan gorde da:\n/casa\n"
+                              "PDF fitxategi honetan:\nuno.pdf")}};
+    for (const auto& [euskera, texto] : filas) {
+        if (euskera) estado.DesplazamientoIdioma = CatalogoTextos::DesplazamientoEuskera;
+        SetUp();
+        destino.ficheros = {QStringLiteral("/casa/uno.pdf")};
+        avisos.Espera(texto, estado.Texto(594));
+        Pulsar(u"btnAceptar");
+    }
+}
+
+TEST_F(Dialogo, ElNombreDelFicheroSeOlvidaAlCerrar) {
+    Pulsar(u"btnOpcionesImpresora");
+    EXPECT_EQ(destino.olvidos, 0);
+    Pulsar(u"btnCancelar");
+    EXPECT_EQ(destino.olvidos, 1);
+}
+
+TEST_F(Dialogo, SaleEnElCentroDeLaVentana) {
+    QWidget ventana;
+    for (const QRect& lugar : {QRect(40, 30, 700, 520), QRect(101, 77, 555, 444)}) {
+        ventana.setGeometry(lugar);
+        ventana.show();
+        auto* nuevo = new FrmImOf(Contexto{estado, pantallas, guardia}, declaracion, destino);
+        nuevo->setParent(&ventana, nuevo->windowFlags() | Qt::Dialog);
+        nuevo->open();
+        const QPoint desvio = nuevo->frameGeometry().center() - ventana.frameGeometry().center();
+        EXPECT_LE(std::abs(desvio.x()), 1);
+        EXPECT_LE(std::abs(desvio.y()), 1);
+        delete nuevo;
+    }
+}
+
+TEST_F(Dialogo, NoSeSaleDeLaPantalla) {
+    QWidget ventana;
+    ventana.setGeometry(-600, -500, 700, 520);
+    ventana.show();
+    auto* nuevo = new FrmImOf(Contexto{estado, pantallas, guardia}, declaracion, destino);
+    nuevo->setParent(&ventana, nuevo->windowFlags() | Qt::Dialog);
+    nuevo->open();
+    EXPECT_TRUE(nuevo->screen()->availableGeometry().contains(nuevo->frameGeometry()));
+}
+
+// The command itself: a failure ends the process, so that nothing of the toolkit it passes
+// through has to tidy up after it.
 TEST_F(Dialogo, UnFalloDeLaImpresoraPasaDeLargo) {
     destino.fabrica.documentoQueFalla = 1;
     destino.fabrica.fallaEn = 5;
-    EXPECT_THROW(De<QPushButton>(u"btnAceptar")->click(), Fallo);
+    EXPECT_THROW(dialogo->Aceptar(), Fallo);
     EXPECT_TRUE(destino.fabrica.documentos[0]->cerrado);
     EXPECT_FALSE(destino.fabrica.documentos[1]->cerrado);
     EXPECT_FALSE(pantallas.EnEspera());

@@ -9,18 +9,24 @@ namespace {
 
 constexpr double MmPorPunto = 25.4 / 72;
 
-QString Salida(const QString& programa, const QStringList& argumentos) {
+QByteArray SalidaCruda(const QString& programa, const QStringList& argumentos) {
     QProcess proceso;
     proceso.start(programa, argumentos);
     proceso.waitForFinished();
-    return QString::fromUtf8(proceso.readAllStandardOutput());
+    return proceso.readAllStandardOutput();
 }
+
+QString Salida(const QString& programa, const QStringList& argumentos) {
+    return QString::fromUtf8(SalidaCruda(programa, argumentos));
+}
+
+bool Hay(const QString& programa) { return !QStandardPaths::findExecutable(programa).isEmpty(); }
 
 }  // namespace
 
 bool HayLectorPdf() {
-    return !QStandardPaths::findExecutable(QStringLiteral("pdftotext")).isEmpty() &&
-           !QStandardPaths::findExecutable(QStringLiteral("pdfinfo")).isEmpty();
+    return Hay(QStringLiteral("pdftotext")) && Hay(QStringLiteral("pdfinfo")) &&
+           Hay(QStringLiteral("pdffonts"));
 }
 
 QString TextoPdf(const QString& fichero) {
@@ -31,6 +37,38 @@ QString TextoPdf(const QString& fichero) {
 int PaginasPdf(const QString& fichero) {
     static const QRegularExpression paginas(QStringLiteral("Pages:\\s+(\\d+)"));
     return paginas.match(Salida(QStringLiteral("pdfinfo"), {fichero})).captured(1).toInt();
+}
+
+QSizeF HojaPdf(const QString& fichero) {
+    static const QRegularExpression hoja(QStringLiteral("Page size:\\s+([\\d.]+) x ([\\d.]+) pts"));
+    const auto hallada = hoja.match(Salida(QStringLiteral("pdfinfo"), {fichero}));
+    return QSizeF(hallada.captured(1).toDouble(), hallada.captured(2).toDouble()) * MmPorPunto;
+}
+
+QStringList FuentesPdf(const QString& fichero) {
+    // Two lines of heading; a name may begin with the mark of a subset ("ABCDEF+").
+    static const QRegularExpression nombre(QStringLiteral("^(?:[A-Z]{6}\\+)?(\\S+)"));
+    QStringList fuentes;
+    const auto filas = Salida(QStringLiteral("pdffonts"), {fichero}).split(u'\n').mid(2);
+    for (const QString& fila : filas)
+        if (const auto hallado = nombre.match(fila); hallado.hasMatch())
+            fuentes << hallado.captured(1);
+    return fuentes;
+}
+
+bool HayPintorPdf() { return Hay(QStringLiteral("pdftoppm")); }
+
+QImage ImagenPdf(const QString& fichero, const QRectF& parte, int puntosPorPulgada) {
+    const auto pixeles = [&](double mm) {
+        return QString::number(qRound(mm * puntosPorPulgada / 25.4));
+    };
+    const QByteArray png = SalidaCruda(
+        QStringLiteral("pdftoppm"),
+        {QStringLiteral("-png"), QStringLiteral("-singlefile"), QStringLiteral("-r"),
+         QString::number(puntosPorPulgada), QStringLiteral("-x"), pixeles(parte.x()),
+         QStringLiteral("-y"), pixeles(parte.y()), QStringLiteral("-W"), pixeles(parte.width()),
+         QStringLiteral("-H"), pixeles(parte.height()), fichero});
+    return QImage::fromData(png).convertToFormat(QImage::Format_RGB32);
 }
 
 QRectF LugarPalabra(const QString& fichero, const QString& palabra) {

@@ -8,6 +8,7 @@
 #include <QApplication>
 #include <QDialog>
 #include <QDir>
+#include <QLineEdit>
 #include <QTemporaryDir>
 #include <QTimer>
 
@@ -109,11 +110,16 @@ TEST_F(SinImpresora, UnaColaQueNoExisteLoDice) {
     EXPECT_THROW(Imprime(QStringLiteral("AD")), Fallo);
 }
 
-/// Presses that button of the printer dialog as soon as it shows.
-void EnElDialogo(QDialog::DialogCode codigo) {
-    QTimer::singleShot(0, qApp, [codigo] {
+/// Types that name in the printer dialog, unless it is empty, and presses that button.
+void EnElDialogo(QDialog::DialogCode codigo, const QString& nombre = {}) {
+    QTimer::singleShot(0, qApp, [codigo, nombre] {
         auto* dialogo = qobject_cast<QDialog*>(QApplication::activeModalWidget());
         ASSERT_NE(dialogo, nullptr);
+        if (!nombre.isEmpty()) {
+            auto* campo = dialogo->findChild<QLineEdit*>(QStringLiteral("filename"));
+            ASSERT_NE(campo, nullptr);
+            campo->setText(nombre);
+        }
         codigo == QDialog::Accepted ? dialogo->accept() : dialogo->reject();
     });
 }
@@ -124,7 +130,87 @@ TEST_F(SinImpresora, ElDialogoOfreceElPdf) {
         fabrica.Elegir(nullptr);
         Imprime(QStringLiteral("AD"));
     }
-    EXPECT_EQ(fabrica.TomarFicheros().size(), 2);
+    EXPECT_EQ(
+        fabrica.TomarFicheros(),
+        (QStringList{EnDocumentos(QStringLiteral("417-12345678Z-AD-20260131-101500.pdf")),
+                     EnDocumentos(QStringLiteral("417-12345678Z-AD-20260131-101500-2.pdf"))}));
+}
+
+class NombreEscrito : public SinImpresora {
+protected:
+    /// Names of the files that were made, without their folder, which must be `carpeta`.
+    QStringList Nombres(const QString& carpeta) {
+        QStringList nombres;
+        for (const QString& fichero : fabrica.TomarFicheros()) {
+            EXPECT_TRUE(QFile::exists(fichero));
+            EXPECT_EQ(QFileInfo(fichero).path(), carpeta);
+            nombres << QFileInfo(fichero).fileName();
+        }
+        return nombres;
+    }
+    void Elige(const QString& nombre, QDialog::DialogCode codigo = QDialog::Accepted) {
+        EnElDialogo(codigo, nombre);
+        fabrica.Elegir(nullptr);
+    }
+};
+
+struct FilaNombre {
+    const char16_t *escrito, *raiz;
+};
+const FilaNombre nombresEscritos[] = {
+    {u"ibaialde.pdf", u"ibaialde"}, {u"ibaialde.PDF", u"ibaialde"},     {u"ibaialde", u"ibaialde"},
+    {u"v1.2.pdf", u"v1.2"},         {u"Ñandú 2026.pdf", u"Ñandú 2026"}, {u"417-1.pdf", u"417-1"},
+};
+
+TEST_F(NombreEscrito, LlevaElCodigoDeLaCopia) {
+    for (const auto& fila : nombresEscritos) {
+        QTemporaryDir otra;
+        Elige(otra.filePath(QString::fromUtf16(fila.escrito)));
+        for (const auto* copia : {u"AD", u"IT", u"BO"}) Imprime(QString::fromUtf16(copia));
+        const QString raiz = QString::fromUtf16(fila.raiz);
+        EXPECT_EQ(Nombres(otra.path()),
+                  (QStringList{raiz + QStringLiteral("-AD.pdf"), raiz + QStringLiteral("-IT.pdf"),
+                               raiz + QStringLiteral("-BO.pdf")}));
+    }
+}
+
+TEST_F(NombreEscrito, NoEscribeSobreUnFicheroQueEsta) {
+    Elige(casa.filePath(QStringLiteral("ibaialde.pdf")));
+    for (int vez = 0; vez < 3; ++vez) Imprime(QStringLiteral("AD"));
+    EXPECT_EQ(Nombres(casa.path()),
+              (QStringList{QStringLiteral("ibaialde-AD.pdf"), QStringLiteral("ibaialde-AD-2.pdf"),
+                           QStringLiteral("ibaialde-AD-3.pdf")}));
+}
+
+TEST_F(NombreEscrito, ElPropuestoNoCuenta) {
+    Elige(casa.filePath(QStringLiteral("417.pdf")));
+    Imprime(QStringLiteral("AD"));
+    EXPECT_EQ(Nombres(casa.path()),
+              QStringList(QStringLiteral("417-12345678Z-AD-20260131-101500.pdf")));
+}
+
+TEST_F(NombreEscrito, CancelarNoLoCambia) {
+    Elige(casa.filePath(QStringLiteral("uno.pdf")));
+    Elige(casa.filePath(QStringLiteral("dos.pdf")), QDialog::Rejected);
+    Imprime(QStringLiteral("AD"));
+    EXPECT_EQ(Nombres(casa.path()), QStringList(QStringLiteral("uno-AD.pdf")));
+}
+
+TEST_F(NombreEscrito, ElDialogoProponeElUltimo) {
+    Elige(casa.filePath(QStringLiteral("ibaialde.pdf")));
+    Elige({});
+    Imprime(QStringLiteral("AD"));
+    EXPECT_EQ(Nombres(casa.path()), QStringList(QStringLiteral("ibaialde-AD.pdf")));
+}
+
+TEST_F(NombreEscrito, SirveParaUnaImpresionYLaCarpetaParaTodas) {
+    Elige(casa.filePath(QStringLiteral("ibaialde.pdf")));
+    Imprime(QStringLiteral("AD"));
+    fabrica.OlvidarNombre();
+    Imprime(QStringLiteral("AD"));
+    EXPECT_EQ(Nombres(casa.path()),
+              (QStringList{QStringLiteral("ibaialde-AD.pdf"),
+                           QStringLiteral("417-12345678Z-AD-20260131-101500.pdf")}));
 }
 
 }  // namespace
