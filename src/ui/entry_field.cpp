@@ -77,7 +77,19 @@ void CampoEntrada::contextMenuEvent(QContextMenuEvent* evento) {
     menu->popup(evento->globalPos());
 }
 
+// A field is stored when the focus leaves it: what is dropped needs the focus, too.
+bool CampoEntrada::tomarFoco() {
+    if (hasFocus() || isReadOnly()) return true;
+    window()->activateWindow();
+    setFocus(Qt::OtherFocusReason);
+    return window()->focusWidget() == this;
+}
+
 void CampoEntrada::dropEvent(QDropEvent* evento) {
+    if (!tomarFoco()) {
+        evento->ignore();
+        return;
+    }
     QMimeData texto;
     texto.setText(admitido(evento->mimeData()->text()));
     QDropEvent limpio(evento->position(), evento->possibleActions(), &texto, evento->buttons(),

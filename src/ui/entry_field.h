@@ -27,6 +27,7 @@ protected:
 
 private:
     void insertar(const QString& texto);
+    bool tomarFoco();
 
     bool recienEnfocado_ = false;
     bool volvera_ = false;

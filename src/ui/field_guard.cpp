@@ -100,9 +100,21 @@ bool GuardiaCampos::dejaElCampo(QObject* objeto, QFocusEvent* evento) {
     return true;
 }
 
+// While another window is in front a drop moves the focus of this one without a word to the
+// field that had it.
+bool GuardiaCampos::rechazaSoltado(QObject* objeto) {
+    if (!objeto->isWidgetType()) return false;
+    QWidget* dejado = static_cast<QWidget*>(objeto)->window()->focusWidget();
+    return dejado != objeto && campos_.contains(dejado) && !comprobar(dejado);
+}
+
 bool GuardiaCampos::eventFilter(QObject* objeto, QEvent* evento) {
     const auto tipo = evento->type();
     if (soltar_ && esEntrada(tipo)) return true;
+    if (tipo == QEvent::Drop && rechazaSoltado(objeto)) {
+        evento->ignore();
+        return true;
+    }
     if (tipo == QEvent::FocusOut && campos_.contains(objeto))
         return dejaElCampo(objeto, static_cast<QFocusEvent*>(evento));
     // The key of a menu only opens it, like a click on it.

@@ -43,6 +43,7 @@ protected:
 private:
     bool comprobar(QWidget* campo);
     bool dejaElCampo(QObject* objeto, QFocusEvent* evento);
+    bool rechazaSoltado(QObject* objeto);
 
     QHash<QObject*, Comprobacion> campos_;
     QPointer<QWidget> enCurso_;

@@ -15,10 +15,11 @@ namespace {
 constexpr int LadoImagen = 22;
 constexpr QRgb GrisBloqueado = 0xFFE0E0E0;
 
+// The filter knows whole letters: a letter and its mark that come apart are put together first.
 template <class Filtro>
 QString filtrar(const QString& texto, Filtro filtro) {
     QString limpio;
-    for (const QChar c : texto)
+    for (const QChar c : texto.normalized(QString::NormalizationForm_C))
         if (const int codigo = filtro(c.unicode()); codigo > TeclaRetroceso)
             limpio += QChar(static_cast<char16_t>(codigo));
     return limpio;
@@ -119,6 +120,7 @@ void ImagenPulsable::mouseReleaseEvent(QMouseEvent* evento) {
 EtiquetaCasilla::EtiquetaCasilla(const QString& nombre, QAbstractButton* casilla, QWidget* padre)
     : QLabel(padre), casilla_(casilla) {
     setObjectName(nombre);
+    setTextFormat(Qt::PlainText);
     setBuddy(casilla);
 }
 
@@ -129,6 +131,7 @@ void EtiquetaCasilla::mousePressEvent(QMouseEvent* evento) {
 QLabel* Etiqueta(const QString& nombre, QWidget* padre) {
     auto* etiqueta = new QLabel(padre);
     etiqueta->setObjectName(nombre);
+    etiqueta->setTextFormat(Qt::PlainText);
     etiqueta->setWordWrap(false);
     return etiqueta;
 }

@@ -1,6 +1,7 @@
 #include "ui/message_box.h"
 
 #include <QApplication>
+#include <QKeyEvent>
 #include <QMessageBox>
 #include <QPointer>
 #include <QPushButton>
@@ -46,12 +47,27 @@ std::vector<BotonCaja> botones(Botones valor) {
     return {Aceptar};
 }
 
+/// Drops the repeated presses of a key that is still held down from the command before: a box is
+/// answered by a key pressed for it.
+class SinRepeticion : public QObject {
+protected:
+    bool eventFilter(QObject* objeto, QEvent* evento) override {
+        if (evento->type() != QEvent::KeyPress) return QObject::eventFilter(objeto, evento);
+        const auto* tecla = static_cast<QKeyEvent*>(evento);
+        const bool responde = tecla->key() == Qt::Key_Return || tecla->key() == Qt::Key_Enter ||
+                              tecla->key() == Qt::Key_Space;
+        return responde && tecla->isAutoRepeat();
+    }
+};
+
 }  // namespace
 
 Respuesta AvisadorPantalla::Mostrar(const Mensaje& mensaje) {
     if (finEspera) finEspera();
     const QPointer<QWidget> ventana = QApplication::activeWindow();
+    SinRepeticion filtro;
     QMessageBox caja(ventana);
+    caja.installEventFilter(&filtro);
     caja.setObjectName(QStringLiteral("MsgBox"));
     caja.setWindowTitle(mensaje.titulo);
     caja.setTextFormat(Qt::PlainText);
@@ -64,6 +80,7 @@ Respuesta AvisadorPantalla::Mostrar(const Mensaje& mensaje) {
     for (const auto& b : lista)
         puestos.push_back(
             caja.addButton(QString::fromUtf16(euskera ? b.euskera : b.castellano), b.papel));
+    for (auto* boton : puestos) boton->installEventFilter(&filtro);
     caja.setDefaultButton(static_cast<QPushButton*>(puestos.front()));
     caja.setEscapeButton(puestos.back());
     caja.exec();

@@ -77,6 +77,21 @@ TEST(EtiquetaMostrada, ConTextoSeMuestraYSinElSeEscondeComoEstaba) {
     EXPECT_TRUE(etiqueta->isVisibleTo(&ventana));
 }
 
+// Names and descriptions come from files that anyone may edit: no markup is read.
+TEST(EtiquetaMostrada, ElTextoEsLlano) {
+    QWidget ventana;
+    QCheckBox casilla(&ventana);
+    EtiquetaCasilla deCasilla(QStringLiteral("lbl"), &casilla, &ventana);
+    const QString texto = QStringLiteral("<b>Pérez</b>");
+    for (QLabel* etiqueta :
+         {Etiqueta(QStringLiteral("lbl"), &ventana), Encabezado(QStringLiteral("lbl"), &ventana),
+          static_cast<QLabel*>(&deCasilla)}) {
+        etiqueta->setText(texto);
+        EXPECT_EQ(etiqueta->textFormat(), Qt::PlainText);
+        EXPECT_GE(etiqueta->sizeHint().width(), etiqueta->fontMetrics().horizontalAdvance(texto));
+    }
+}
+
 /// A screen with one command, its picture and one field.
 class PantallaMinima : public Pantalla {
 public:

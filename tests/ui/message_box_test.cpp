@@ -98,6 +98,19 @@ TEST_P(BotonesDeCaja, EscapeYLaAspaDicenQueNoEIntroQueSi) {
     EXPECT_EQ(mostrar(mensaje(), [](QMessageBox& caja) { caja.close(); }), caso.respuestaNo);
 }
 
+// The key that is still down from the command before must not answer the question.
+TEST_P(BotonesDeCaja, UnaTeclaMantenidaNoResponde) {
+    const auto& caso = GetParam();
+    for (const auto tecla : {Qt::Key_Return, Qt::Key_Enter, Qt::Key_Space})
+        EXPECT_EQ(mostrar(mensaje(),
+                          [tecla](QMessageBox& caja) {
+                              Repetir(&caja, tecla);
+                              for (auto* boton : caja.buttons()) Repetir(boton, tecla);
+                              EXPECT_TRUE(caja.isVisible()) << tecla;
+                          }),
+                  caso.respuestaNo);
+}
+
 TEST_F(CajaDeMensaje, ElTextoEsLlano) {
     const QString texto = QStringLiteral("<b>Pérez & Hijos</b> <img src=x> &amp; 1 < 2");
     mostrar({texto, QStringLiteral("A & B"), Icono::Informacion, Botones::Aceptar},

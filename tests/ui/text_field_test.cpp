@@ -167,6 +167,14 @@ TEST_F(CampoDeTexto, OtroFiltroYOtroAncho) {
     EXPECT_EQ(campo->text(), QStringLiteral("ABCDEX"));
 }
 
+TEST_F(CampoDeTexto, LoDescompuestoEntraCompuesto) {
+    for (const int camino : {1, 2, 3, 4}) {
+        campo->Presentar(QString());
+        entrar(camino, QStringLiteral("mun\u0303oz c\u0327o\u0301"));
+        EXPECT_EQ(campo->text(), QStringLiteral("MUÑOZ Ç")) << camino;
+    }
+}
+
 TEST_F(CampoDeTexto, UnCampoBloqueadoNoAdmiteNadaPeroIntroSigue) {
     campo->Presentar(QStringLiteral("ABC"));
     BloquearCampo(campo);

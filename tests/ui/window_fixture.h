@@ -45,12 +45,21 @@ inline void Escribir(QWidget* w, const QString& texto) {
 }
 
 /// Drags a text over a point of a field and drops it there.
-inline void Soltar(QWidget* w, const QString& texto, QPoint en) {
+/// Returns whether it was taken.
+inline bool Soltar(QWidget* w, const QString& texto, QPoint en) {
     QMimeData datos;
     datos.setText(texto);
     QDragEnterEvent entrada(en, Qt::CopyAction, &datos, Qt::LeftButton, {});
     QApplication::sendEvent(w, &entrada);
     QDropEvent evento(en, Qt::CopyAction, &datos, Qt::LeftButton, {});
+    QApplication::sendEvent(w, &evento);
+    return evento.isAccepted();
+}
+
+/// The key as it comes again and again while it is held down.
+inline void Repetir(QWidget* w, Qt::Key tecla) {
+    const QString letra = tecla == Qt::Key_Space ? QStringLiteral(" ") : QStringLiteral("\r");
+    QKeyEvent evento(QEvent::KeyPress, tecla, Qt::NoModifier, letra, true);
     QApplication::sendEvent(w, &evento);
 }
 
