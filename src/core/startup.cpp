@@ -5,6 +5,7 @@
 #include "core/shared_state.h"
 #include "platform/failure.h"
 #include "platform/file_version.h"
+#include "platform/program_folder.h"
 #include "store/transfer_server.h"
 
 namespace padral {
@@ -38,12 +39,9 @@ void ObtenerVersionPrograma(EstadoCompartido& estado, const QString& carpeta) {
 }
 
 void ObtenerRutas(EstadoCompartido& estado) {
-    const QString& p = estado.CarpetaPrograma;
-    const auto posicion = p.indexOf(QStringLiteral("cliente"), 0, Qt::CaseInsensitive);
-    // The folder name goes together with the separator before it.
-    const QString base = posicion < 0 ? p : p.left(posicion > 0 ? posicion - 1 : 0);
     const QChar separador = QDir::separator();
-    estado.RutaTablas = base + separador + QStringLiteral("Tablas") + separador;
+    estado.RutaTablas =
+        BaseTablas(estado.CarpetaPrograma) + separador + QStringLiteral("Tablas") + separador;
     estado.RutaBDLectura = estado.RutaTablas + QStringLiteral("DPadralLec.mdb");
     estado.RutaBDModificacion = estado.RutaTablas + QStringLiteral("DPadralMod.mdb");
 }

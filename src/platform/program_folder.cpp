@@ -55,15 +55,32 @@ void llenarUnaVez(const QString& origen, const QString& destino) {
     if (!QDir().rename(parcial, destino)) fallar(destino);
 }
 
+// Whether a folder, or one that can be made there, takes files.
+bool seEscribe(const QString& carpeta) {
+    const QFileInfo info(carpeta);
+    return info.exists() ? info.isDir() && info.isWritable() : QFileInfo(info.path()).isWritable();
+}
+
 }  // namespace
+
+QString BaseTablas(const QString& programa) {
+    const auto posicion = programa.indexOf(QStringLiteral("cliente"), 0, Qt::CaseInsensitive);
+    // The folder name goes together with the separator before it.
+    return posicion < 0 ? programa : programa.left(posicion > 0 ? posicion - 1 : 0);
+}
 
 QString CarpetaEjecutable() { return sinSeparadorFinal(QCoreApplication::applicationDirPath()); }
 
 QString CarpetaPrograma(const QString& ejecutable, const QString& usuario) {
-    if (QFileInfo(ejecutable).isWritable()) return sinSeparadorFinal(ejecutable);
-    const QString tablas = QStringLiteral("Tablas");
+    const QString programa = sinSeparadorFinal(ejecutable);
+    const auto tablasDe = [](const QString& carpeta) {
+        return QDir(carpeta).filePath(QStringLiteral("Tablas"));
+    };
+    const QString propias = tablasDe(programa), deUsuario = tablasDe(usuario);
+    if (seEscribe(propias) || seEscribe(tablasDe(BaseTablas(programa)))) return programa;
+    if (!QFileInfo(propias).isDir() && !QFileInfo(deUsuario).isDir()) return programa;
     if (!QDir().mkpath(usuario)) fallar(usuario);
-    llenarUnaVez(QDir(ejecutable).filePath(tablas), QDir(usuario).filePath(tablas));
+    llenarUnaVez(propias, deUsuario);
     return sinSeparadorFinal(usuario);
 }
 

@@ -2,6 +2,7 @@
 
 #include <sqlite3.h>
 
+#include <QFile>
 #include <QFileInfo>
 #include <QUrl>
 #include <optional>
@@ -31,6 +32,13 @@ void checkIdentity(const Identity& identity, const Opening& opening) {
     if (identity.schemaVersion < SchemaVersion) throw FileFailure(FileFault::Damaged, opening.path);
 }
 
+// Every file of the engine begins with these bytes; a file cut off within them is one of its own.
+bool beginsLikeADatabase(const QString& path) {
+    static const QByteArray Header("SQLite format 3\0", 16);
+    QFile file(path);
+    return !file.open(QIODevice::ReadOnly) || Header.startsWith(file.read(Header.size()));
+}
+
 // Looks at the file as if nobody could change it: no lock is taken and no journal that lies
 // beside it is played back, so that a file which is not ours stays as it is. What this look
 // cannot tell for certain is left to the real opening.
@@ -42,7 +50,9 @@ std::optional<Identity> peekIdentity(const QString& path) {
                             SQLITE_OPEN_READONLY | SQLITE_OPEN_URI | SQLITE_OPEN_NOMUTEX);
         return readIdentity(db);
     } catch (const SQLite::Exception& error) {
-        if (error.getErrorCode() == SQLITE_NOTADB) throw FileFailure(FileFault::Damaged, path);
+        if (error.getErrorCode() == SQLITE_NOTADB)
+            throw FileFailure(beginsLikeADatabase(path) ? FileFault::Damaged : FileFault::Foreign,
+                              path);
         return std::nullopt;
     }
 }

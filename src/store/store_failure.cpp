@@ -67,10 +67,13 @@ Fallo FileFailure(const SQLite::Exception& error, const QString& path) {
     const int code = error.getErrorCode() & 0xff;
     for (const CodeFault& entry : CodeFaults)
         if (entry.code == code) return FileFailure(entry.fault, path);
+    // The engine's own words are English and speak of its insides; its number can be looked up.
     const QString name = QDir::toNativeSeparators(path);
-    const QString cause = QString::fromUtf8(error.what());
-    return {QStringLiteral("Fallo en el archivo «%1»: %2").arg(name, cause),
-            QStringLiteral("Hutsegitea «%1» fitxategian: %2").arg(name, cause)};
+    const QString number = QString::number(error.getErrorCode());
+    return {QStringLiteral("El motor de datos ha fallado en el archivo «%1» (código %2).")
+                .arg(name, number),
+            QStringLiteral("Datu-motorrak huts egin du «%1» fitxategian (%2 kodea).")
+                .arg(name, number)};
 }
 
 }  // namespace padral::store

@@ -14,7 +14,7 @@ namespace padral::store {
 enum class FileFault {
     Missing,   ///< there is no such file
     Unopened,  ///< it is there and cannot be opened
-    Foreign,   ///< a database of another program, or the other one of the two files
+    Foreign,   ///< of another program, a database or not, or the other one of the two files
     Newer,     ///< written by a newer version of this program
     Damaged,
     Locked,  ///< another program held it for longer than the wait

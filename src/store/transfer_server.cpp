@@ -25,7 +25,10 @@ QString texto(SQLite::Statement& consulta, int columna) {
 }
 
 void rehacerClaves(SQLite::Database& db) {
-    SQLite::Statement filas(db, "SELECT csde, DNI, NOMBRE, NumeroArchivo FROM TDeclaraciones");
+    // Not through an index: the update moves the row within it, and it would come again.
+    SQLite::Statement filas(db,
+                            "SELECT csde, DNI, NOMBRE, NumeroArchivo FROM TDeclaraciones"
+                            " NOT INDEXED ORDER BY csde");
     SQLite::Statement cambio(
         db,
         "UPDATE TDeclaraciones SET DniMayusculas = ?2, NombreMayusculas = ?3,"

@@ -98,6 +98,18 @@ const CasoTexto Textos[] = {
     {u'E', u"2002/12/__", false, -1},
     {u'E', u"200_/12/31", false, -1},
     {u'E', u"2___/__/__", false, -1},
+    // The last part is read by its leading digits, the number takes its last characters
+    {u'C', u"31/12/2002 x", true, 0},
+    {u'C', u"31/12/2002 ", true, 0},
+    {u'C', u"31/12/2002x", false, -1},
+    {u'C', u"31/12/ 2002", false, -1},
+    {u'C', u"31/12/20021", true, 211231},
+    {u'C', u"31/12/02002", true, 20021231},
+    {u'C', u"29/02/20001", false, -1},
+    {u'E', u"2002/12/31 x", true, 0},
+    {u'E', u"2002/12/031", true, 20021231},
+    {u'E', u"2002/12/311", false, -1},
+    {u'E', u"20021/12/31", false, -1},
     // No digits, and the order of the other language
     {u'C', u"aa/12/2002", false, -1},
     {u'C', u"-1/12/2002", false, -1},

@@ -11,7 +11,8 @@ namespace {
 using pruebas::ConDatos;
 
 TEST_F(ConDatos, ElegirIdiomaSeEscribeEnElActo) {
-    const std::pair<const char16_t*, qint16> casos[] = {{u"E", 10000}, {u"C", 0}};
+    const std::pair<const char16_t*, qint16> casos[] = {
+        {u"E", 10000}, {u"C", 0}, {u"X", 0}, {u"e", 0}};
     for (const auto& [letra, desplazamiento] : casos) {
         const QString idioma = QString::fromUtf16(letra);
         estado.mdi.IDI(idioma);
@@ -32,6 +33,19 @@ TEST_F(ConDatos, LeerYModificarElIdiomaNoTocanLoDemas) {
     EXPECT_EQ(estado.DesplazamientoIdioma, 0);
     EXPECT_EQ(estado.fecha.fecidioma, QStringLiteral("C"));
     EXPECT_EQ(Contenido(estado.RutaBDModificacion), antes);
+}
+
+// Reading alone leaves dates and texts as they are; the session takes the letter as it is.
+TEST_F(ConDatos, LeerOtraLetraDejaLasFechasHastaLaSesion) {
+    Ejecutar(estado.RutaBDModificacion, "UPDATE TGENERAL SET IDI = 'X'");
+    estado.mdi.LeerIdioma();
+    EXPECT_EQ(estado.mdi.IDI(), QStringLiteral("X"));
+    EXPECT_EQ(estado.fecha.fecidioma, QStringLiteral("C"));
+    InicializarSesion(estado);
+    EXPECT_EQ(estado.fecha.fecidioma, QStringLiteral("X"));
+    EXPECT_EQ(estado.DesplazamientoIdioma, 0);
+    EXPECT_EQ(estado.fecha.FecVacia(), QStringLiteral("__/__/____"));
+    EXPECT_EQ(estado.fecha.LongToString(20021231), QStringLiteral("2002/12/31"));
 }
 
 TEST_F(ConDatos, ElAjusteDeActualizacionVaYViene) {

@@ -97,6 +97,24 @@ TEST_F(BotonesLista, RotulosEnLosDosIdiomas) {
     }
 }
 
+TEST_F(BotonesLista, AyudasEnLosDosIdiomas) {
+    const std::pair<const char16_t*, int> casos[] = {
+        {u"cmdVerDeclaracion", 567},    {u"CmdNuevo", 564}, {u"CmdEliminar", 566},
+        {u"CmdCopiarDeclaracion", 569}, {u"cmdTodos", 559}, {u"cmdAnterior", 557}};
+    for (const bool euskera : {false, true}) {
+        if (euskera) enEuskera();
+        abrir(QStringLiteral("A"));
+        for (const auto& [boton, id] : casos) EXPECT_EQ(control(boton)->toolTip(), texto(id)) << id;
+        EXPECT_EQ(control(u"cmdBuscar")->toolTip(), texto(561));
+        pulsar(u"cmdBuscar");
+        EXPECT_EQ(control(u"cmdBuscar")->toolTip(), texto(570));
+    }
+    EXPECT_EQ(control(u"cmdAnterior")->toolTip(),
+              QStringLiteral("Zerrenda itxi eta menu nagusira joango da"));
+    EXPECT_EQ(control(u"picasc")->toolTip(), QStringLiteral("Goranzko ordena"));
+    EXPECT_EQ(control(u"picdesc")->toolTip(), QStringLiteral("Beheranzko ordena"));
+}
+
 TEST_F(BotonesLista, LasTeclasDeAccesoNoSeRepiten) {
     for (const bool euskera : {false, true}) {
         if (euskera) enEuskera();
@@ -130,6 +148,23 @@ TEST_F(BotonesLista, TodoControlTieneNombreAccesible) {
             << QString::fromUtf16(nombre).toStdString();
     }
     EXPECT_EQ(caja()->accessibleName(), QStringLiteral("Fecha Declar."));
+}
+
+// The criteria row has no other words than its header.
+TEST_F(BotonesLista, LasCeldasDeCriteriosDicenSuColumna) {
+    const auto nombre = [this](int c) {
+        return rejilla()->model()->index(0, c).data(Qt::AccessibleTextRole).toString();
+    };
+    abrir(QStringLiteral("A"));
+    EXPECT_EQ(nombre(2), QString()) << "a row of the list says its own text";
+    pulsar(u"cmdBuscar");
+    EXPECT_EQ(nombre(2), QStringLiteral("Apellidos y Nombre"));
+    EXPECT_EQ(nombre(6), QStringLiteral("Apartados"));
+    pulsarCelda(1, 2);
+    escribir(u"ga");
+    pulsarCelda(1, 1);
+    EXPECT_EQ(nombre(2), QStringLiteral("Apellidos y Nombre: GA"));
+    EXPECT_EQ(nombre(1), QStringLiteral("NIF"));
 }
 
 }  // namespace

@@ -75,6 +75,20 @@ TEST_F(OrdenesLista, DobleClicEIntroEliminan) {
     EXPECT_TRUE(pantallas.Tomar().isEmpty());
 }
 
+// One press deletes one declaration, however long it lasts.
+TEST_F(OrdenesLista, IntroMantenidoNoHaceNada) {
+    for (const auto* entrada : {u"E", u"A"}) {
+        abrir(QString::fromUtf16(entrada));
+        for (const auto codigo : {Qt::Key_Return, Qt::Key_Enter}) {
+            QKeyEvent repetida(QEvent::KeyPress, codigo, Qt::NoModifier, QStringLiteral("\r"),
+                               true);
+            QApplication::sendEvent(rejilla(), &repetida);
+        }
+        EXPECT_EQ(rejilla()->model()->rowCount(), 3);
+        EXPECT_TRUE(pantallas.Tomar().isEmpty());
+    }
+}
+
 TEST_F(OrdenesLista, LasTeclasDeAcceso) {
     abrir(QStringLiteral("A"));
     teclaDeAcceso(u"cmdVerDeclaracion", Qt::Key_V);

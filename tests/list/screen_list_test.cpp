@@ -74,13 +74,30 @@ TEST_F(PantallaLista, ColumnasYCabeceras) {
     EXPECT_EQ(celda(1, 5), texto(588));
 }
 
-TEST_F(PantallaLista, LasColumnasLlenanLaRejillaEnProporcion) {
+TEST_F(PantallaLista, ConCtrlYUnNumeroSeOrdenaComoConLaCabecera) {
     abrir(QStringLiteral("A"));
-    int total = 0;
-    for (int c = 1; c <= 6; ++c) total += rejilla()->columnWidth(c);
-    EXPECT_EQ(total, rejilla()->viewport()->width());
-    EXPECT_GT(rejilla()->columnWidth(2), rejilla()->columnWidth(5));
-    EXPECT_GT(rejilla()->columnWidth(5), rejilla()->columnWidth(1));
+    pulsarCelda(2, 1);
+    for (const int c : {1, 2, 3, 4}) {
+        pulsarCabecera(c);
+        const QStringList conRaton = columna(2);
+        pulsarCabecera(c == 4 ? 1 : 4);
+        EXPECT_NE(columna(2), conRaton) << c;
+        tecla(static_cast<Qt::Key>(Qt::Key_0 + c), Qt::ControlModifier);
+        EXPECT_EQ(lista.ORDEN, QString::number(c));
+        EXPECT_EQ(lista.TIPOORDEN, c == 4 ? QStringLiteral("DESC") : QStringLiteral("ASC"));
+        EXPECT_EQ(columna(2), conRaton) << c;
+        EXPECT_EQ(lista.csde, ana) << "the selection stays";
+    }
+    for (const auto codigo : {Qt::Key_0, Qt::Key_5, Qt::Key_6}) {
+        tecla(codigo, Qt::ControlModifier);
+        EXPECT_EQ(lista.ORDEN, QStringLiteral("4"));
+    }
+    tecla(Qt::Key_2);
+    EXPECT_EQ(lista.ORDEN, QStringLiteral("4")) << "only with Ctrl";
+    pulsar(u"cmdBuscar");
+    tecla(Qt::Key_2, Qt::ControlModifier);
+    EXPECT_TRUE(lista.EnBusqueda());
+    EXPECT_EQ(lista.ORDEN, QStringLiteral("4"));
 }
 
 TEST_F(PantallaLista, SinDeclaraciones) {

@@ -122,6 +122,48 @@ TEST_F(BusquedaLista, DejarLaColumnaGuardaElCriterio) {
     EXPECT_EQ(lista.TS_COUNT(), 1);
 }
 
+TEST_F(BusquedaLista, UnCriterioSeCambiaEnSuSitio) {
+    buscar();
+    pulsarCelda(1, 2);
+    escribir(u"e");
+    pulsarCelda(1, 3);
+    escribir(u"r");
+    pulsarCelda(1, 2);
+    EXPECT_EQ(caja()->selectedText(), QStringLiteral("E"));
+    escribir(u"l");
+    pulsar(u"cmdBuscar");
+    EXPECT_EQ(lista.TS_COUNT(), 2);
+    EXPECT_EQ(lista.TS_PERTENECE(2), 1) << "the first criterion is still the first";
+    EXPECT_EQ(lista.Criterio(2), QStringLiteral("L"));
+    EXPECT_EQ(columna(2), QStringList{QStringLiteral("LUIS")});
+    EXPECT_EQ(rotulo(u"lblResultado"),
+              QStringLiteral("Nombre empieza por 'L' Referencia empieza por 'R' "
+                             "1 declaración(es) en la lista. "));
+}
+
+struct CasoIntro {
+    int columna;
+    const char16_t* escrito;
+    const char16_t* queda;
+};
+
+TEST_F(BusquedaLista, IntroTerminaEnCadaColumna) {
+    const CasoIntro casos[] = {
+        {1, u"x", u"EVA"}, {2, u"a", u"ANA"}, {3, u"r3", u"LUIS"}, {4, u"01/06/2003", u"LUIS"}};
+    for (const auto& caso : casos) {
+        buscar();
+        pulsarCelda(1, caso.columna);
+        escribir(caso.escrito);
+        tecla(Qt::Key_Return);
+        EXPECT_FALSE(lista.EnBusqueda()) << caso.columna;
+        EXPECT_FALSE(caja()->isVisible());
+        EXPECT_EQ(lista.ORDEN, QString::number(caso.columna));
+        EXPECT_EQ(lista.TIPOORDEN, QStringLiteral("ASC"));
+        EXPECT_EQ(columna(2), QStringList{QString::fromUtf16(caso.queda)}) << caso.columna;
+        EXPECT_EQ(QApplication::focusWidget(), rejilla());
+    }
+}
+
 TEST_F(BusquedaLista, ResultadoPorBotonTeclaDeAccesoEIntro) {
     const std::function<void()> formas[] = {
         [this] { pulsar(u"cmdBuscar"); },
@@ -257,12 +299,20 @@ TEST_F(BusquedaLista, LaCajaSigueALaRejilla) {
 }
 
 TEST_F(BusquedaLista, AnteriorSaleDeLaBusqueda) {
-    buscar();
-    pulsarCelda(1, 2);
-    escribir(u"e");
-    pulsar(u"cmdAnterior");
-    EXPECT_EQ(pantallas.Tomar(), (QStringList{QStringLiteral("HabilitarMenus"),
-                                              QStringLiteral("Descargar FrmDecLista")}));
+    for (const auto& [c, escrito] : {std::pair{2, u"e"}, {4, u"01/02/2003"}, {4, u""}}) {
+        buscar();
+        pulsarCelda(1, c);
+        escribir(escrito);
+        pulsar(u"cmdAnterior");
+        EXPECT_EQ(pantallas.Tomar(), (QStringList{QStringLiteral("HabilitarMenus"),
+                                                  QStringLiteral("Descargar FrmDecLista")}));
+        EXPECT_EQ(lista.Criterio(c), QString::fromUtf16(escrito).toUpper());
+        EXPECT_TRUE(lista.EnBusqueda());
+        abrir(QStringLiteral("A"));
+        EXPECT_FALSE(lista.EnBusqueda()) << "the next entry begins anew";
+        EXPECT_EQ(lista.TS_COUNT(), 0);
+        EXPECT_EQ(rejilla()->model()->rowCount(), 3);
+    }
 }
 
 }  // namespace

@@ -2,6 +2,9 @@
 
 #include <gtest/gtest.h>
 
+#include <functional>
+
+#include "platform/failure.h"
 #include "store/catalogue_sql.h"
 #include "store/store_files.h"
 
@@ -44,6 +47,64 @@ TEST(CatalogueSql, IsTheTextOfTheProgram) {
         EXPECT_EQ(text.query.castellano, text.spanish);
         EXPECT_EQ(text.query.euskera, text.basque);
         EXPECT_EQ(text.query.final, text.end);
+    }
+}
+
+TEST(CatalogueSql, OfTheListsIsTheTextOfTheProgram) {
+    const std::vector<SqlText> texts{
+        {sql::ListaSiglas, u"Select SIGLAS_CODIGO, SIGLAS_CAS From TSIGLAS ORDER BY SIGLAS_CAS",
+         u"Select SIGLAS_CODIGO, SIGLAS_EUS From TSIGLAS ORDER BY SIGLAS_EUS", u""},
+        {sql::ListaProvincias,
+         u"Select T07_PRO_ID, T07_PRO_CAS From TProvincias Order By T07_PRO_CAS",
+         u"Select T07_PRO_ID, T07_PRO_EUS From TProvincias Order By T07_PRO_EUS", u""},
+        {sql::ListaMunicipios,
+         u"Select T08_CODMUN, T08_NOMMUN From TMunicipios Order By T08_NOMMUN",
+         u"Select T08_CODMUN, T08_NOMMUN From TMunicipios Order By T08_NOMMUN", u""},
+        {sql::Epigrafes,
+         u"Select EPIDEPCAS From TEpigrafes_2000 WHERE NOT(EPICODEPI='9999999') ORDER BY "
+         u"EPIDEPCAS,EPICODEPI",
+         u"Select EPIDEPEUS From TEpigrafes_2000 WHERE NOT(EPICODEPI='9999999') ORDER BY "
+         u"EPIDEPEUS,EPICODEPI",
+         u""},
+        {sql::EpigrafeSinActividad,
+         u"Select EPIDEPCAS From TEpigrafes_2000 WHERE (EPICODEPI='9999999') ORDER BY "
+         u"EPIDEPCAS,EPICODEPI",
+         u"Select EPIDEPEUS From TEpigrafes_2000 WHERE (EPICODEPI='9999999') ORDER BY "
+         u"EPIDEPEUS,EPICODEPI",
+         u""},
+        {sql::FormasJuridicas,
+         u"Select CODFORMA,LETDNI,DESCRIFORMACAS From TFormasJuridicas ORDER BY CODFORMA",
+         u"Select CODFORMA,LETDNI,DESCRIFORMAEUS From TFormasJuridicas ORDER BY CODFORMA", u""},
+        {sql::MotivosCambio, u"Select MOTIVOCAS From TMotivoCambio ORDER BY CODIGO",
+         u"Select MOTIVOEUS From TMotivoCambio ORDER BY CODIGO", u""},
+        {sql::CausasCese, u"Select CAUSACAS From TCausasCese", u"Select CAUSAEUS From TCausasCese",
+         u""}};
+    for (const SqlText& text : texts) {
+        EXPECT_EQ(text.query.castellano, text.spanish);
+        EXPECT_EQ(text.query.euskera, text.basque);
+        EXPECT_EQ(text.query.final, text.end);
+    }
+}
+
+// A key is put into the query as it stands.
+TEST_F(Lookups, FailOnAQuoteInAKeyWithTheNameOfTheFile) {
+    const QString key = QStringLiteral("O'X");
+    const std::vector<std::function<QString()>> lookups{
+        [&] { return catalogue.ObtenerCodigoEpigrafe(key); },
+        [&] { return catalogue.ObtenerDescripcionEpigrafe(key); },
+        [&] { return catalogue.ObtenerDescActivEcon(key); },
+        [&] { return catalogue.ObtenerCodigoFormaJuridica(key); },
+        [&] { return catalogue.ObtenerDescripcionSiglas(key); },
+        [&] { return catalogue.ObtenerCodigoCausa(key); },
+        [&] { return catalogue.ObtenerCausaCese(key); }};
+    for (const auto& lookup : lookups) {
+        try {
+            lookup();
+            ADD_FAILURE() << "no failure";
+        } catch (const Fallo& failure) {
+            EXPECT_TRUE(failure.Castellano().contains(lec));
+            EXPECT_TRUE(failure.Euskera().contains(lec));
+        }
     }
 }
 

@@ -31,6 +31,14 @@ struct Case {
 void remove(const QString& path) { QFile::remove(path); }
 void empty(const QString& path) { Overwrite(path, {}); }
 void garbage(const QString& path) { Overwrite(path, QByteArray(9000, 'x')); }
+void oneLine(const QString& path) { Overwrite(path, "notes"); }
+void otherFormat(const QString& path) {
+    Overwrite(path, QByteArray("\0\1\0\0Other Database\0", 19) + QByteArray(4096, '\0'));
+}
+void garbageBehindTheHeader(const QString& path) {
+    Overwrite(path, Bytes(path).first(16) + QByteArray(9000, 'x'));
+}
+void cutInTheFirstBytes(const QString& path) { Overwrite(path, Bytes(path).first(9)); }
 void otherDatabase(const QString& path) {
     remove(path);
     Execute(path, "CREATE TABLE t (a); INSERT INTO t VALUES (1)");
@@ -50,16 +58,23 @@ void folder(const QString& path) {
 constexpr const char16_t* DamagedSpanish = u"El archivo «%1» está dañado.";
 constexpr const char16_t* DamagedBasque = u"«%1» fitxategia hondatuta dago.";
 
+constexpr const char16_t* ForeignSpanish =
+    u"El archivo «%1» no es un archivo de datos de este programa.";
+constexpr const char16_t* ForeignBasque =
+    u"«%1» fitxategia ez da programa honen datu-fitxategi bat.";
+
 const std::vector<Case> Cases{
     {"missing", remove, u"No se encuentra el archivo «%1».", u"Ez da «%1» fitxategia aurkitzen."},
     {"empty", empty, DamagedSpanish, DamagedBasque},
-    {"garbage", garbage, DamagedSpanish, DamagedBasque},
+    {"garbage", garbage, ForeignSpanish, ForeignBasque},
+    {"one_line", oneLine, ForeignSpanish, ForeignBasque},
+    {"other_format", otherFormat, ForeignSpanish, ForeignBasque},
+    {"garbage_behind_the_header", garbageBehindTheHeader, DamagedSpanish, DamagedBasque},
+    {"cut_in_the_first_bytes", cutInTheFirstBytes, DamagedSpanish, DamagedBasque},
     {"half", half, DamagedSpanish, DamagedBasque},
     {"header_only", headerOnly, DamagedSpanish, DamagedBasque},
     {"unknown_layout", unknownLayout, DamagedSpanish, DamagedBasque},
-    {"other_database", otherDatabase,
-     u"El archivo «%1» no es un archivo de datos de este programa.",
-     u"«%1» fitxategia ez da programa honen datu-fitxategi bat."},
+    {"other_database", otherDatabase, ForeignSpanish, ForeignBasque},
     {"newer", newer, u"El archivo «%1» es de una versión más nueva del programa.",
      u"«%1» fitxategia programaren bertsio berriago batekoa da."},
     {"folder", folder, u"No se puede abrir el archivo «%1».", u"Ezin da «%1» fitxategia ireki."}};
@@ -173,9 +188,7 @@ TEST_F(Unusable, TheOtherOfTheTwoFilesIsForeign) {
     for (const Operation& operation : Operations) {
         const QString& wrong = operation.catalogue ? mod : lec;
         const QByteArray before = Bytes(wrong);
-        expectFailure([&] { operation.run(wrong); }, wrong,
-                      u"El archivo «%1» no es un archivo de datos de este programa.",
-                      u"«%1» fitxategia ez da programa honen datu-fitxategi bat.");
+        expectFailure([&] { operation.run(wrong); }, wrong, ForeignSpanish, ForeignBasque);
         EXPECT_EQ(Bytes(wrong), before);
     }
 }
@@ -199,15 +212,6 @@ TEST_F(Unusable, ALookAtALockedFileDoesNotLoosenTheLock) {
     const SQLite::Transaction held(other, SQLite::TransactionBehavior::EXCLUSIVE);
     for (int attempt = 0; attempt < 2; ++attempt)
         EXPECT_THROW(declarations(mod).GuardarDeclaracion({}), Fallo);
-}
-
-TEST_F(Unusable, ALockThatEndsInTimeIsWaitedFor) {
-    EXPECT_EQ(SvrDPadral::cDeclaracionesSvr().busyTimeout, 5000);
-    SQLite::Database other(mod.toStdString(), SQLITE_OPEN_READWRITE);
-    auto held =
-        std::make_unique<SQLite::Transaction>(other, SQLite::TransactionBehavior::EXCLUSIVE);
-    held.reset();
-    EXPECT_NO_THROW(declarations(mod).GuardarDeclaracion({}));
 }
 
 TEST_F(Unusable, ReadOnlyFilesAreReadAndNotWritten) {
@@ -275,6 +279,13 @@ TEST_F(Unusable, AListThatIsDamagedInTheMiddleIsTold) {
             Server().DameDeclaraciones({}, list, QStringLiteral("2"), QStringLiteral("ASC"));
         },
         mod, DamagedSpanish, DamagedBasque);
+}
+
+TEST_F(Unusable, AnyOtherErrorOfTheEngineIsToldWithItsNumber) {
+    Execute(mod, "DROP TABLE TApartado7");
+    expectFailure([&] { declarations(mod).GuardarDeclaracion({}); }, mod,
+                  u"El motor de datos ha fallado en el archivo «%1» (código 1).",
+                  u"Datu-motorrak huts egin du «%1» fitxategian (1 kodea).");
 }
 
 TEST_F(Unusable, AJournalBesideAFileThatIsNotOursIsNotPlayedBack) {

@@ -64,5 +64,26 @@ TEST_F(Transfer, RemakesTheSortKeysOfOtherRules) {
     EXPECT_EQ(Value(mod, "PRAGMA integrity_check"), QStringLiteral("ok"));
 }
 
+// The rows move within the indexes while their keys are made.
+TEST_F(Transfer, MakesTheKeysOfEachRowOnce) {
+    constexpr int Rows = 300;
+    for (int i = 0; i < Rows; ++i) {
+        const QString text = QString::number(1000 + i);
+        Server().GuardarDeclaracion(Listed(text, text, text, 1));
+    }
+    Execute(mod,
+            "UPDATE TGENERAL SET VersionOrden = '1.2';"
+            "UPDATE TDeclaraciones SET NombreClave = x'00', ReferenciaClave = x'00',"
+            " NombreMayusculas = '', DniMayusculas = '', ReferenciaMayusculas = '';"
+            "CREATE TABLE Cambios (csde INTEGER);"
+            "CREATE TRIGGER Contar AFTER UPDATE ON TDeclaraciones BEGIN"
+            " INSERT INTO Cambios VALUES (new.csde); END");
+    Run();
+    EXPECT_EQ(Value(mod, "SELECT count(*) FROM Cambios"), QString::number(Rows));
+    EXPECT_EQ(Value(mod, "SELECT count(DISTINCT csde) FROM Cambios"), QString::number(Rows));
+    EXPECT_EQ(Value(mod, "SELECT count(*) FROM TDeclaraciones WHERE DniMayusculas <> DNI"),
+              QStringLiteral("0"));
+}
+
 }  // namespace
 }  // namespace padral::test

@@ -55,7 +55,7 @@ public:
 
     /// Deletes all participants of a declaration.
     void EliminarParticipes(qint32 clave) const;
-    /// Deletes a declaration; its participants first.
+    /// Deletes a declaration; the caller deletes its participants first.
     void EliminarDeclaracion(qint32 clave) const;
 
     /// What the load of the list does with the state, by `ENTRADA`: "A" and "E" start anew, "P"

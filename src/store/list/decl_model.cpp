@@ -45,9 +45,16 @@ QVariant ModeloDeclaraciones::texto(const QModelIndex& indice) const {
     return lista_.TextoCelda(filas_, indice.column(), indice.row());
 }
 
+QString ModeloDeclaraciones::nombreCriterio(int columna) const {
+    const QString valor = lista_.Criterio(columna);
+    const QString titulo = titulos_.value(columna);
+    return valor.isEmpty() ? titulo : titulo + QStringLiteral(": ") + valor;
+}
+
 QVariant ModeloDeclaraciones::data(const QModelIndex& indice, int papel) const {
     if (!indice.isValid()) return {};
     if (papel == Qt::DisplayRole) return texto(indice);
+    if (papel == Qt::AccessibleTextRole && criterios_) return nombreCriterio(indice.column());
     if (papel == Qt::TextAlignmentRole && indice.column() == 0)
         return QVariant(Qt::AlignRight | Qt::AlignVCenter);
     return {};

@@ -36,6 +36,8 @@ public:
 
 private:
     QVariant texto(const QModelIndex& indice) const;
+    /// What is read aloud for a cell of the criteria: its header and its value.
+    QString nombreCriterio(int columna) const;
 
     const cDecLista& lista_;
     SvrDPadral::ListaDeclaraciones filas_;

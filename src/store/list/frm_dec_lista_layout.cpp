@@ -4,6 +4,7 @@
 #include <QHeaderView>
 #include <algorithm>
 
+#include "store/list/button_bar.h"
 #include "store/list/frm_dec_lista.h"
 #include "ui/art.h"
 
@@ -25,6 +26,7 @@ const QString Muestras[] = {
     QStringLiteral("W00000000W"), QString(26, u'N'), QStringLiteral("WWW0000000"),
     QStringLiteral("00/00/0000"), QString(),         QStringLiteral("2,3,4,5,6,7,AI,AII")};
 constexpr int MargenBoton = 28;
+constexpr std::size_t ColTipo = 5, ColApartados = 6;
 
 }  // namespace
 
@@ -38,10 +40,7 @@ FrmDecLista::FrmDecLista(const Contexto& contexto, EstadoDeclaracion& declaracio
     crearBusqueda();
     lblResultado_ = Etiqueta(QStringLiteral("lblResultado"), this);
     lblayuda_ = Etiqueta(QStringLiteral("lblayuda"), this);
-    for (QLabel* linea : {lblResultado_, lblayuda_}) {
-        linea->setTextFormat(Qt::PlainText);
-        linea->setWordWrap(true);
-    }
+    for (QLabel* linea : {lblResultado_, lblayuda_}) linea->setWordWrap(true);
     auto* todo = new QVBoxLayout(this);
     todo->addWidget(titulo_);
     todo->addWidget(lblayuda_);
@@ -80,23 +79,22 @@ QPushButton* FrmDecLista::crearBoton(const char16_t* nombre, QWidget* padre) {
 }
 
 QWidget* FrmDecLista::crearBotones() {
-    auto* barra = new QWidget(this);
-    auto* fila = new QHBoxLayout(barra);
-    fila->setContentsMargins(0, 0, 0, 0);
-    const auto poner = [&](const char16_t* nombre) {
+    auto* barra = new BarraBotones(this);
+    const auto poner = [&](QHBoxLayout* grupo, const char16_t* nombre) {
         auto* boton = crearBoton(nombre, barra);
-        fila->addWidget(boton);
+        grupo->addWidget(boton);
         return boton;
     };
-    cmdAnterior_ = poner(u"cmdAnterior");
-    fila->addStretch(1);
-    cmdBuscar_ = poner(u"cmdBuscar");
-    cmdTodos_ = poner(u"cmdTodos");
-    fila->addSpacing(24);
-    CmdNuevo_ = poner(u"CmdNuevo");
-    CmdCopiarDeclaracion_ = poner(u"CmdCopiarDeclaracion");
-    cmdVerDeclaracion_ = poner(u"cmdVerDeclaracion");
-    CmdEliminar_ = poner(u"CmdEliminar");
+    auto *primero = barra->Primero(), *segundo = barra->Segundo();
+    cmdAnterior_ = poner(primero, u"cmdAnterior");
+    primero->addStretch(1);
+    cmdBuscar_ = poner(primero, u"cmdBuscar");
+    cmdTodos_ = poner(primero, u"cmdTodos");
+    segundo->addStretch(1);
+    CmdNuevo_ = poner(segundo, u"CmdNuevo");
+    CmdCopiarDeclaracion_ = poner(segundo, u"CmdCopiarDeclaracion");
+    cmdVerDeclaracion_ = poner(segundo, u"cmdVerDeclaracion");
+    CmdEliminar_ = poner(segundo, u"CmdEliminar");
     return barra;
 }
 
@@ -106,6 +104,7 @@ void FrmDecLista::conectar() {
             &FrmDecLista::elegirFila);
     connect(rejilla, &QTableView::doubleClicked, this, &FrmDecLista::accionDeFila);
     connect(rejilla, &RejillaDeclaraciones::intro, this, &FrmDecLista::accionDeFila);
+    connect(rejilla, &RejillaDeclaraciones::ordenPedido, this, &FrmDecLista::ordenarPor);
     connect(rejilla, &RejillaDeclaraciones::pasoDeColumna, this, &FrmDecLista::moverColumna);
     connect(rejilla, &QTableView::pressed, this, [this](const QModelIndex& celda) {
         if (lista_.EnBusqueda()) elegirColumna(celda.column());
@@ -156,18 +155,22 @@ void FrmDecLista::presentarTitulo() {
     flxDeclaraciones_->setAccessibleName(titulo.trimmed());
 }
 
+// Where room is scarce name, type and sections give way: of them a part still tells something.
 void FrmDecLista::ponerMinimos() {
-    RejillaDeclaraciones::Anchos minimos{};
+    const auto* rejilla = flxDeclaraciones_;
+    RejillaDeclaraciones::Anchos minimos{}, estrechos{};
     for (std::size_t c = 1; c < minimos.size(); ++c) {
         const QString titulo = Texto(TitulosColumna[c - 1]);
         const int flecha =
             cDecLista::EsColumnaBuscable(static_cast<int>(c)) ? LadoFlecha + 2 * MargenFlecha : 0;
-        minimos[c] = std::max(flxDeclaraciones_->AnchoTexto(Muestras[c - 1]),
-                              flxDeclaraciones_->AnchoTexto(titulo) + flecha);
+        const int cabecera = rejilla->AnchoTexto(titulo) + flecha;
+        minimos[c] = std::max(rejilla->AnchoTexto(Muestras[c - 1]), cabecera);
+        estrechos[c] = c == ColTipo || c == ColApartados ? cabecera : minimos[c];
     }
     for (const int id : TextosTipo)
-        minimos[5] = std::max(minimos[5], flxDeclaraciones_->AnchoTexto(Texto(id)));
-    flxDeclaraciones_->PonerMinimos(minimos);
+        minimos[ColTipo] = std::max(minimos[ColTipo], rejilla->AnchoTexto(Texto(id)));
+    estrechos[cDecLista::ColNombre] = rejilla->AnchoTexto(QString(8, u'N'));
+    flxDeclaraciones_->PonerMinimos(minimos, estrechos);
 }
 
 }  // namespace padral

@@ -19,6 +19,8 @@ constexpr std::size_t ColumnaElastica = 2;
 constexpr int MargenFila = 10;
 constexpr int MargenCelda = 12;
 
+int suma(const Anchos& anchos) { return std::accumulate(anchos.begin(), anchos.end(), 0); }
+
 /// The mark belongs to the row: no cell has a frame of its own; while the grid has the focus,
 /// lines above and below the row say so. Cells that take no criterion are grey.
 class PintorCelda : public QStyledItemDelegate {
@@ -65,8 +67,9 @@ RejillaDeclaraciones::RejillaDeclaraciones(QWidget* padre) : QTableView(padre) {
     cabecera->setFixedHeight(fontMetrics().height() + MargenFila + 2);
 }
 
-void RejillaDeclaraciones::PonerMinimos(const Anchos& minimos) {
+void RejillaDeclaraciones::PonerMinimos(const Anchos& minimos, const Anchos& estrechos) {
     minimos_ = minimos;
+    estrechos_ = estrechos;
     AjustarColumnas();
 }
 
@@ -74,17 +77,27 @@ int RejillaDeclaraciones::AnchoTexto(const QString& texto) const {
     return fontMetrics().horizontalAdvance(texto) + MargenCelda;
 }
 
+Anchos RejillaDeclaraciones::repartir(int ancho) const {
+    Anchos anchos{};
+    for (std::size_t c = 1; c < anchos.size(); ++c)
+        anchos[c] = std::max(minimos_[c], ancho * Proporciones[c] / suma(Proporciones));
+    int& elastica = anchos[ColumnaElastica];
+    elastica = std::max(0, ancho - (suma(anchos) - elastica));
+    if (elastica >= minimos_[ColumnaElastica]) return anchos;
+    // No room for proportions: every column gives way by the same part of what it can spare.
+    const int sobra = suma(minimos_) - suma(estrechos_);
+    const int falta = std::clamp(suma(minimos_) - ancho, 0, sobra);
+    for (std::size_t c = 1; c < anchos.size(); ++c) {
+        const int cede = (minimos_[c] - estrechos_[c]) * falta;
+        anchos[c] = minimos_[c] - (cede > 0 ? (cede + sobra - 1) / sobra : 0);
+    }
+    elastica += std::max(0, ancho - suma(anchos));
+    return anchos;
+}
+
 void RejillaDeclaraciones::AjustarColumnas() {
     if (!model()) return;
-    const int ancho = viewport()->width();
-    const int total = std::accumulate(Proporciones.begin(), Proporciones.end(), 0);
-    Anchos anchos{};
-    int resto = ancho;
-    for (std::size_t c = 1; c < anchos.size(); ++c) {
-        anchos[c] = std::max(minimos_[c], ancho * Proporciones[c] / total);
-        if (c != ColumnaElastica) resto -= anchos[c];
-    }
-    anchos[ColumnaElastica] = std::max(minimos_[ColumnaElastica], resto);
+    const Anchos anchos = repartir(viewport()->width());
     setColumnHidden(0, true);
     for (std::size_t c = 1; c < anchos.size(); ++c) setColumnWidth(static_cast<int>(c), anchos[c]);
     Q_EMIT geometriaCambiada();
@@ -105,18 +118,30 @@ void RejillaDeclaraciones::irAFila(int fila) {
     if (destino.flags() & Qt::ItemIsSelectable) setCurrentIndex(destino);
 }
 
+bool RejillaDeclaraciones::pideOrden(const QKeyEvent& evento) {
+    const auto teclas = evento.modifiers() & ~Qt::KeypadModifier;
+    const int columna = evento.key() - Qt::Key_0;
+    if (teclas != Qt::ControlModifier || !cDecLista::EsColumnaBuscable(columna)) return false;
+    Q_EMIT ordenPedido(columna);
+    return true;
+}
+
 void RejillaDeclaraciones::keyPressEvent(QKeyEvent* evento) {
     const int tecla = evento->key();
-    if (tecla == Qt::Key_Return || tecla == Qt::Key_Enter)
-        Q_EMIT intro();
-    else if (enCriterios() && (tecla == Qt::Key_Left || tecla == Qt::Key_Right))
+    if (tecla == Qt::Key_Return || tecla == Qt::Key_Enter) {
+        // Held down it opens or deletes once.
+        if (!evento->isAutoRepeat()) Q_EMIT intro();
+    } else if (pideOrden(*evento)) {
+        evento->accept();
+    } else if (enCriterios() && (tecla == Qt::Key_Left || tecla == Qt::Key_Right)) {
         Q_EMIT pasoDeColumna(tecla == Qt::Key_Left ? -1 : 1);
-    else if (tecla == Qt::Key_Home)
+    } else if (tecla == Qt::Key_Home) {
         irAFila(0);
-    else if (tecla == Qt::Key_End)
+    } else if (tecla == Qt::Key_End) {
         irAFila(model()->rowCount() - 1);
-    else
+    } else {
         QTableView::keyPressEvent(evento);
+    }
 }
 
 void RejillaDeclaraciones::resizeEvent(QResizeEvent* evento) {

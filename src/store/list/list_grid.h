@@ -13,9 +13,10 @@ class RejillaDeclaraciones : public QTableView {
 public:
     explicit RejillaDeclaraciones(QWidget* padre = nullptr);
 
-    /// Width in pixels under which a column does not go, 0 none.
+    /// Widths in pixels by column.
     using Anchos = std::array<int, ModeloDeclaraciones::Columnas>;
-    void PonerMinimos(const Anchos& minimos);
+    /// What each column should have at least, and what it can make do with in a narrow grid.
+    void PonerMinimos(const Anchos& minimos, const Anchos& estrechos);
     /// After `setModel`: hides the key and shares the width out.
     void AjustarColumnas();
     /// Pixels that a text takes in a cell, its margins included.
@@ -29,6 +30,8 @@ public:
 Q_SIGNALS:
     /// Enter.
     void intro();
+    /// Ctrl and the number of a column: the same as a click on its header.
+    void ordenPedido(int columna);
     /// An arrow to the left (-1) or right (1) while criteria are entered.
     void pasoDeColumna(int paso);
     /// Columns or the grid itself have moved.
@@ -43,8 +46,10 @@ protected:
 private:
     bool enCriterios() const;
     void irAFila(int fila);
+    bool pideOrden(const QKeyEvent& evento);
+    Anchos repartir(int ancho) const;
 
-    Anchos minimos_{};
+    Anchos minimos_{}, estrechos_{};
 };
 
 }  // namespace padral

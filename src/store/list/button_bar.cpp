@@ -1,0 +1,48 @@
+#include "store/list/button_bar.h"
+
+#include <QBoxLayout>
+#include <QEvent>
+#include <algorithm>
+
+namespace padral {
+
+namespace {
+
+constexpr int EntreGrupos = 24;
+constexpr int EntreBotones = 6;
+
+}  // namespace
+
+BarraBotones::BarraBotones(QWidget* padre)
+    : QWidget(padre),
+      todo_(new QBoxLayout(QBoxLayout::LeftToRight, this)),
+      primero_(new QHBoxLayout),
+      segundo_(new QHBoxLayout) {
+    todo_->setContentsMargins(0, 0, 0, 0);
+    todo_->setSpacing(EntreGrupos);
+    for (auto* grupo : {primero_, segundo_}) grupo->setSpacing(EntreBotones);
+    todo_->addLayout(primero_, 1);
+    todo_->addLayout(segundo_);
+}
+
+QSize BarraBotones::minimumSizeHint() const {
+    return {std::max(primero_->minimumSize().width(), segundo_->minimumSize().width()),
+            todo_->minimumSize().height()};
+}
+
+bool BarraBotones::event(QEvent* evento) {
+    const bool vale = QWidget::event(evento);
+    if (evento->type() == QEvent::Resize || evento->type() == QEvent::LayoutRequest) repartir();
+    return vale;
+}
+
+void BarraBotones::repartir() {
+    const int linea = primero_->sizeHint().width() + EntreGrupos + segundo_->sizeHint().width();
+    const auto sentido = width() < linea ? QBoxLayout::TopToBottom : QBoxLayout::LeftToRight;
+    if (todo_->direction() == sentido) return;
+    todo_->setDirection(sentido);
+    todo_->setSpacing(sentido == QBoxLayout::LeftToRight ? EntreGrupos : EntreBotones);
+    updateGeometry();
+}
+
+}  // namespace padral
