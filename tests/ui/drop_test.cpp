@@ -69,6 +69,7 @@ TEST_F(TextoSoltado, DesdeOtraVentanaCompruebaElCampoQueDeja) {
         otraVentana.show();
         otraVentana.activateWindow();
         ASSERT_TRUE(QTest::qWaitForWindowActive(&otraVentana));
+        otraVentana.setFocus();
         ASSERT_TRUE(otraVentana.hasFocus());
         EXPECT_EQ(soltarEnOtro(), !rechazo);
         EXPECT_EQ(otro->text(), rechazo ? QString() : QStringLiteral("BC"));
