@@ -41,7 +41,11 @@ MDIPadral::MDIPadral(EstadoCompartido& estado, GuardiaCampos& guardia, OrdenesDe
             [this](QWidget*, QWidget* ahora) { tenerALaVista(ahora); });
 }
 
-MDIPadral::~MDIPadral() = default;
+MDIPadral::~MDIPadral() {
+    // The focus moves while the screens go: that is no leaving, and nobody looks any more.
+    guardia_.Olvidar(this);
+    disconnect(qApp, nullptr, this, nullptr);
+}
 
 void MDIPadral::MostrarEnPantalla() {
     const QSize hueco = screen()->availableGeometry().size();

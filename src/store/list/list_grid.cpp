@@ -19,7 +19,11 @@ constexpr std::size_t ColumnaElastica = 2;
 constexpr int MargenFila = 10;
 constexpr int MargenCelda = 12;
 
-int suma(const Anchos& anchos) { return std::accumulate(anchos.begin(), anchos.end(), 0); }
+constexpr int suma(const Anchos& anchos) {
+    return std::accumulate(anchos.begin(), anchos.end(), 0);
+}
+constexpr int SumaProporciones = suma(Proporciones);
+static_assert(SumaProporciones > 0);
 
 /// The mark belongs to the row: no cell has a frame of its own; while the grid has the focus,
 /// lines above and below the row say so. Cells that take no criterion are grey.
@@ -80,7 +84,7 @@ int RejillaDeclaraciones::AnchoTexto(const QString& texto) const {
 Anchos RejillaDeclaraciones::repartir(int ancho) const {
     Anchos anchos{};
     for (std::size_t c = 1; c < anchos.size(); ++c)
-        anchos[c] = std::max(minimos_[c], ancho * Proporciones[c] / suma(Proporciones));
+        anchos[c] = std::max(minimos_[c], ancho * Proporciones[c] / SumaProporciones);
     int& elastica = anchos[ColumnaElastica];
     elastica = std::max(0, ancho - (suma(anchos) - elastica));
     if (elastica >= minimos_[ColumnaElastica]) return anchos;
