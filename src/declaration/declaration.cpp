@@ -152,6 +152,12 @@ const QString& bandera(const cDatosGenerales& g, int numero) {
 
 }  // namespace
 
+bool cDeclaraciones::mostrar(const QString& pantalla) {
+    if (!pantallas_.Disponible(pantalla)) return false;
+    pantallas_.Mostrar(pantalla);
+    return true;
+}
+
 void cDeclaraciones::IrApartadoAnterior(int numero, const QString& nombreFormulario) {
     // The name goes first: the screen shown looks where the user comes from when it loads.
     estado.FormularioOrigen = nombreFormulario;
@@ -165,25 +171,19 @@ void cDeclaraciones::IrApartadoAnterior(int numero, const QString& nombreFormula
         return;
     }
     for (int n = std::min(numero, 8); n > 2; --n)
-        if (Marcado(bandera(general, n - 1))) {
-            pantallas_.Mostrar(PantallaApartado(n - 1));
-            return;
-        }
+        if (Marcado(bandera(general, n - 1)) && mostrar(PantallaApartado(n - 1))) return;
     pantallas_.Mostrar(QStringLiteral("FrmDatGen"));
 }
 
-void cDeclaraciones::IrApartadoSiguiente(int numero) {
-    if (numero < 2 || numero > 8) return;
+bool cDeclaraciones::IrApartadoSiguiente(int numero) {
+    if (numero < 2 || numero > 8) return false;
     for (int n = numero; n < 7; ++n)
-        if (Marcado(bandera(general, n + 1))) {
-            pantallas_.Mostrar(PantallaApartado(n + 1));
-            return;
-        }
-    if (numero <= 7 && Marcado(general.AnexoI)) {
+        if (Marcado(bandera(general, n + 1)) && mostrar(PantallaApartado(n + 1))) return true;
+    if (numero <= 7 && Marcado(general.AnexoI) && pantallas_.Disponible(PantallaAnexoI())) {
         pantallas_.Mostrar(PrepararAnexoI());
-        return;
+        return true;
     }
-    if (Marcado(general.AnexoII)) pantallas_.Mostrar(QStringLiteral("frmAnexoII"));
+    return Marcado(general.AnexoII) && mostrar(QStringLiteral("frmAnexoII"));
 }
 
 QString cDeclaraciones::PantallaAnexoI() const {

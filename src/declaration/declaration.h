@@ -37,8 +37,8 @@ public:
     /// 9 a participant, 10 Annex II), skipping sections that are not marked. `FormularioOrigen`
     /// becomes `nombreFormulario`.
     void IrApartadoAnterior(int numero, const QString& nombreFormulario);
-    /// Shows the screen after section `numero` (2 to 8); nothing when none follows.
-    void IrApartadoSiguiente(int numero);
+    /// Shows the screen after section `numero` (2 to 8). False: none follows, and the caller stays.
+    bool IrApartadoSiguiente(int numero);
     /// Name of the screen of section 2 to 7, by the effective date.
     QString PantallaApartado(int numero) const;
     /// The participants list, or the screen of one participant when there is none.
@@ -72,6 +72,7 @@ public:
 
 private:
     void cambiarNumParti(int cambio);
+    bool mostrar(const QString& pantalla);
     QString prepararParticipe();
     void guardarParticipe(cParticipes& participe, qint32 clave);
     std::shared_ptr<cParticipes> nuevoParticipe();

@@ -112,7 +112,8 @@ TEST_F(Cadena, AnteriorDesdeCadaNumero) {
 TEST_F(Cadena, SiguienteDesdeCadaNumero) {
     recorrer([&](const Situacion& s) {
         for (int numero = 1; numero <= 9; ++numero) {
-            d.IrApartadoSiguiente(numero);
+            const bool sigue = d.IrApartadoSiguiente(numero);
+            ASSERT_EQ(sigue, !siguiente(numero, s).isEmpty());
             ASSERT_EQ(pantallas.Tomar(), llamada(siguiente(numero, s)))
                 << numero << ' ' << s.banderas << ' ' << s.partiDeclaracion;
         }
