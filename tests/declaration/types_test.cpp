@@ -70,15 +70,15 @@ TEST_F(Tipos, LasPalabrasDeLaPreguntaEnLosDosIdiomas) {
     llenar(d, Apartado::Tres);
     llenar(d, Apartado::AnexoII);
     EXPECT_EQ(PreguntaMarcarTipo(d, u'C')->texto,
-              QStringLiteral("Los apartados siguientes contienen datos que se borrarán: "
+              QStringLiteral("Los apartados y anexos siguientes contienen datos que se borrarán: "
                              "3 AII ... ¿Desea continuar?"));
     g.Causa1 = QStringLiteral("I");
     EXPECT_EQ(PreguntaQuitarTipo(d)->texto,
-              QStringLiteral("Los apartados siguientes contienen datos que se borrarán: "
+              QStringLiteral("Los apartados y anexos siguientes contienen datos que se borrarán: "
                              "3 AII... ¿Desea continuar?"));
     enEuskera();
     EXPECT_EQ(PreguntaMarcarTipo(d, u'C')->texto,
-              QStringLiteral("Atal hauetan datuak daude, eta ezabatu egingo dira: "
+              QStringLiteral("Atal eta eranskin hauetan datuak daude, eta ezabatu egingo dira: "
                              "3 AII ... Jarraitu nahi duzu?"));
     EXPECT_EQ(PreguntaMarcarTipo(d, u'C')->titulo, QStringLiteral("Atalak ezabatzea"));
 }
