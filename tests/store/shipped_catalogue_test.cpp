@@ -2,8 +2,10 @@
 
 #include <gtest/gtest.h>
 
+#include <QSet>
 #include <QTemporaryDir>
 
+#include "core/text_catalogue.h"
 #include "make_catalogue/load_catalogue.h"
 #include "store/catalogue_lookups.h"
 #include "store/store_files.h"
@@ -21,6 +23,46 @@ struct Shipped : ::testing::Test {
         catalogue::WriteCatalogue(QStringLiteral(PADRAL_SOURCE_DIR "/data/catalogue"), path);
     }
 };
+
+struct Count {
+    const char* table;
+    int least, most;
+};
+
+TEST_F(Shipped, HasAsManyRowsAsTheCatalogueNeeds) {
+    for (const auto& [table, least, most] : {Count{"TEpigrafes_2000", 980, 9999},
+                                             {"TFormasJuridicas", 30, 90},
+                                             {"TProvincias", 52, 52},
+                                             {"TMunicipios", 85, 99},
+                                             {"TSiglas", 40, 26 * 26},
+                                             {"TMotivoCambio", 5, 5},
+                                             {"TCausasCese", 9, 9}}) {
+        const int rows =
+            Value(path, (std::string("SELECT count(*) FROM ") + table).c_str()).toInt();
+        EXPECT_GE(rows, least) << table;
+        EXPECT_LE(rows, most) << table;
+    }
+}
+
+TEST_F(Shipped, HasMunicipalitiesWithCodesOfOneToThreeDigits) {
+    for (const char* range : {"1 AND 9", "10 AND 99", "100 AND 999"})
+        EXPECT_GT(Value(path, (std::string("SELECT count(*) FROM TMunicipios WHERE T08_CODMUN"
+                                           " BETWEEN ") +
+                               range)
+                                  .c_str())
+                      .toInt(),
+                  4)
+            << range;
+}
+
+TEST_F(Shipped, HasAFormForEveryLetterOfAnEntity) {
+    const Tabla forms = catalogue.FormasJuridicas();
+    QSet<QString> letters;
+    for (int row = 0; row < forms.UltimaFila(); ++row) letters.insert(forms(1, row).toString());
+    QStringList sorted = letters.values();
+    sorted.sort();
+    EXPECT_EQ(sorted.join(QString()), QStringLiteral("ABCDEFGHJNPQRSUVW"));
+}
 
 TEST_F(Shipped, NamesAllProvincesAndTheTerritoryInBothLanguages) {
     for (const qint16 language : {qint16{0}, qint16{10000}}) {
@@ -76,17 +118,39 @@ TEST_F(Shipped, HasTheCausesOfCessationInTheirOrder) {
     EXPECT_EQ(codes, QStringLiteral("10 11 20 22 30 31 32 33 99 "));
 }
 
-TEST_F(Shipped, FindsEveryActivityByItsNameAndItsCode) {
+// The list shows the numbered text in the place of the row, and the row is looked up by it.
+TEST_F(Shipped, HasTheOtherCausesUnderTheirNumberedText) {
+    const CatalogoTextos texts;
     for (const qint16 language : {qint16{0}, qint16{10000}}) {
         offset = language;
-        for (const QString& name : catalogue.Epigrafes() + catalogue.EpigrafeSinActividad()) {
-            const QString code = catalogue.ObtenerCodigoEpigrafe(name);
-            EXPECT_LE(code.size(), 7);
-            EXPECT_EQ(catalogue.ObtenerDescripcionEpigrafe(code), name);
+        EXPECT_EQ(catalogue.ObtenerCodigoCausa(texts.Texto(66 + language).toUpper()),
+                  QStringLiteral("99"));
+    }
+}
+
+TEST_F(Shipped, FindsActivitiesByTheirNameAndTheirCode) {
+    for (const qint16 language : {qint16{0}, qint16{10000}}) {
+        offset = language;
+        const QStringList names = catalogue.Epigrafes();
+        // Each lookup opens the file: some rows from all over the list are enough.
+        for (qsizetype i = 0; i < names.size(); i += 1 + names.size() / 60) {
+            const QString code = catalogue.ObtenerCodigoEpigrafe(names[i]);
+            EXPECT_EQ(catalogue.ObtenerDescripcionEpigrafe(code), names[i]);
         }
-        EXPECT_EQ(
-            catalogue.ObtenerDescActivEcon(QStringLiteral("9999999")),
-            language == 0 ? QStringLiteral("SIN ACTIVIDAD") : QStringLiteral("JARDUERARIK GABE"));
+    }
+}
+
+TEST_F(Shipped, HasTheActivityOfTheNoticeOnTheForm) {
+    EXPECT_FALSE(catalogue.ObtenerDescActivEcon(QStringLiteral("1.8611")).isEmpty());
+}
+
+TEST_F(Shipped, NamesTheMissingActivityByItsNumberedText) {
+    const CatalogoTextos texts;
+    for (const qint16 language : {qint16{0}, qint16{10000}}) {
+        offset = language;
+        EXPECT_EQ(catalogue.EpigrafeSinActividad(), QStringList{texts.Texto(664 + language)});
+        EXPECT_EQ(catalogue.ObtenerDescActivEcon(QStringLiteral("9999999")),
+                  texts.Texto(664 + language));
     }
 }
 

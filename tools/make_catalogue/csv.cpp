@@ -1,90 +1,97 @@
 #include "make_catalogue/csv.h"
 
+#include <QStringDecoder>
+
 namespace padral::catalogue {
 
 namespace {
 
-constexpr std::string_view ByteOrderMark = "\xEF\xBB\xBF";
+constexpr QByteArrayView ByteOrderMark = "\xEF\xBB\xBF";
 
-class Reader {
+// Splits one line; `problem` tells why it could not.
+class Splitter {
 public:
-    explicit Reader(std::string_view text) : text_(text) {
-        if (text_.starts_with(ByteOrderMark)) text_.remove_prefix(ByteOrderMark.size());
-    }
+    explicit Splitter(const QString& line) : line_(line) {}
 
-    bool AtEnd() const { return at_ == text_.size(); }
-    int Line() const { return line_; }
+    QString problem;
 
-    bool SkipEmptyLine() { return SkipLineEnd(); }
-
-    Record ReadRecord() {
-        Record record{ReadField()};
-        while (!AtEnd() && !SkipLineEnd()) {
-            if (text_[at_] != ',') Fail("text behind a closing quote");
-            ++at_;
-            record.push_back(ReadField());
+    QStringList Fields() {
+        QStringList fields{Field()};
+        while (problem.isEmpty() && at_ < line_.size()) {
+            if (line_[at_] != u',')
+                problem = QStringLiteral("text behind a closing quote");
+            else {
+                ++at_;
+                fields.append(Field());
+            }
         }
-        return record;
-    }
-
-    [[noreturn]] void Fail(const std::string& what) const {
-        throw CsvError("line " + std::to_string(line_) + ": " + what);
+        return fields;
     }
 
 private:
-    bool SkipLineEnd() {
-        const std::string_view rest = text_.substr(at_);
-        const std::size_t size = rest.starts_with("\r\n") ? 2 : rest.starts_with('\n') ? 1 : 0;
-        at_ += size;
-        line_ += size > 0;
-        return size > 0;
+    QString Field() {
+        if (at_ < line_.size() && line_[at_] == u'"') return Quoted();
+        qsizetype end = line_.indexOf(u',', at_);
+        if (end < 0) end = line_.size();
+        const QString field = line_.mid(at_, end - at_);
+        at_ = end;
+        return field;
     }
 
-    std::string ReadField() {
-        if (!AtEnd() && text_[at_] == '"') return ReadQuoted();
-        const std::size_t start = at_;
-        while (!AtEnd() && text_[at_] != ',' && text_[at_] != '\n' &&
-               !text_.substr(at_).starts_with("\r\n"))
-            ++at_;
-        return std::string(text_.substr(start, at_ - start));
-    }
-
-    std::string ReadQuoted() {
-        std::string field;
-        for (++at_; !AtEnd(); ++at_) {
-            if (text_[at_] == '"') {
-                if (text_.substr(at_ + 1, 1) != "\"") {
-                    ++at_;
-                    return field;
-                }
-                ++at_;
-            }
-            line_ += text_[at_] == '\n';
-            field += text_[at_];
+    QString Quoted() {
+        QString field;
+        for (++at_; at_ < line_.size(); ++at_) {
+            if (line_[at_] == u'"' && line_.mid(++at_, 1) != QStringLiteral("\"")) return field;
+            field += line_[at_];
         }
-        Fail("a quote is not closed");
+        problem = QStringLiteral("a quote is not closed in its line");
+        return field;
     }
 
-    std::string_view text_;
-    std::size_t at_ = 0;
-    int line_ = 1;
+    const QString& line_;
+    qsizetype at_ = 0;
 };
+
+QString fieldsInstead(qsizetype count, qsizetype expected) {
+    return QStringLiteral("%1 %2 instead of %3")
+        .arg(count)
+        .arg(count == 1 ? QStringLiteral("field") : QStringLiteral("fields"))
+        .arg(expected);
+}
+
+// Adds a line to the records or to the problems.
+void readLine(QByteArrayView bytes, int number, Csv& csv) {
+    QStringDecoder decoder(QStringDecoder::Utf8);
+    const QString line = decoder(bytes);
+    if (decoder.hasError()) {
+        csv.problems.push_back({number, QStringLiteral("not UTF-8")});
+        return;
+    }
+    Splitter splitter(line);
+    QStringList fields = splitter.Fields();
+    if (splitter.problem.isEmpty() && !csv.records.empty() &&
+        fields.size() != csv.records.front().fields.size())
+        splitter.problem = fieldsInstead(fields.size(), csv.records.front().fields.size());
+    if (splitter.problem.isEmpty())
+        csv.records.push_back({number, std::move(fields)});
+    else
+        csv.problems.push_back({number, splitter.problem});
+}
 
 }  // namespace
 
-std::vector<Record> ParseCsv(std::string_view text) {
-    Reader reader(text);
-    std::vector<Record> records;
-    while (!reader.AtEnd()) {
-        if (reader.SkipEmptyLine()) continue;
-        const int line = reader.Line();
-        records.push_back(reader.ReadRecord());
-        if (records.back().size() != records.front().size())
-            throw CsvError("line " + std::to_string(line) + ": " +
-                           std::to_string(records.back().size()) + " fields instead of " +
-                           std::to_string(records.front().size()));
+Csv ParseCsv(QByteArrayView text) {
+    Csv csv;
+    if (text.startsWith(ByteOrderMark)) text = text.sliced(ByteOrderMark.size());
+    for (int number = 1; !text.isEmpty(); ++number) {
+        const qsizetype end = text.indexOf('\n');
+        QByteArrayView line = text.first(end < 0 ? text.size() : end);
+        text = text.sliced(end < 0 ? text.size() : end + 1);
+        if (line.endsWith('\r')) line.chop(1);
+        if (!line.isEmpty()) readLine(line, number, csv);
+        if (csv.records.empty() && !csv.problems.empty()) break;
     }
-    return records;
+    return csv;
 }
 
 }  // namespace padral::catalogue

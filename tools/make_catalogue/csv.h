@@ -1,23 +1,31 @@
 #pragma once
-// Comma separated values: UTF-8, a field with a comma, a quote or a line break stands in double
+// Comma separated values: UTF-8, a line a record. A field with a comma or a quote stands in double
 // quotes, and a quote within it is doubled.
 
-#include <stdexcept>
-#include <string>
-#include <string_view>
+#include <QByteArrayView>
+#include <QStringList>
 #include <vector>
 
 namespace padral::catalogue {
 
-using Record = std::vector<std::string>;
-
-/// Says what is wrong and in which line.
-struct CsvError : std::runtime_error {
-    using std::runtime_error::runtime_error;
+struct Record {
+    int line;  ///< counted from 1
+    QStringList fields;
 };
 
-/// All records; empty lines are skipped. Throws CsvError for a quote that is not closed, text
-/// behind a closing quote, or a record with another number of fields than the first one.
-std::vector<Record> ParseCsv(std::string_view text);
+/// What is wrong with a line.
+struct Problem {
+    int line;
+    QString what;
+};
+
+struct Csv {
+    std::vector<Record> records;
+    std::vector<Problem> problems;
+};
+
+/// All good lines as records and what is wrong with the others; empty lines are skipped. The first
+/// record gives the number of fields; when its line is bad, nothing behind it is read.
+Csv ParseCsv(QByteArrayView text);
 
 }  // namespace padral::catalogue
