@@ -1,6 +1,6 @@
 #include "app/program.h"
 
-#include "core/help/help_window.h"
+#include "core/help/show_help.h"
 #include "core/startup.h"
 #include "declaration/screen/frm_dat_gen.h"
 #include "online/frm_about.h"
@@ -19,7 +19,9 @@ Programa::Programa(const Puertos& puertos, const QString& carpetaEjecutable,
       puertos_(puertos),
       carpetaEjecutable_(carpetaEjecutable),
       estado_(puertos.avisador, puertos.reloj),
-      lista_(estado_) {
+      lista_(estado_),
+      visorPropio_(estado_),
+      teclaAyuda_([this](const QString& formulario) { ventana_->AyudaDe(formulario); }) {
     estado_.CarpetaPrograma = carpetaPrograma;
     OrdenesDeclaraciones ordenes;
     ordenes.empezar = [this](const QString& modo, const QString& entrada) {
@@ -86,7 +88,8 @@ void Programa::registrarPantallas() {
     };
     ventana_->mostrarAcercaDe = [this] { frmAbout(estado_, ventana_.get()).exec(); };
     ventana_->mostrarAyuda = [this](const QString& tema) {
-        MostrarAyuda(estado_, tema, ventana_.get());
+        VisorAyuda* visor = puertos_.visorAyuda ? puertos_.visorAyuda : &visorPropio_;
+        MostrarAyuda(estado_, *visor, tema, ventana_.get());
     };
 }
 

@@ -4,6 +4,8 @@
 #include <functional>
 #include <memory>
 
+#include "core/help/help_key.h"
+#include "core/help/window_viewer.h"
 #include "core/shared_state.h"
 #include "core/window/mdi_padral.h"
 #include "declaration/declaration.h"
@@ -18,6 +20,8 @@ struct Puertos {
     Avisador& avisador;
     Reloj& reloj;
     DestinoImpresion& impresora;
+    /// Shows help files; none: the program's own window.
+    VisorAyuda* visorAyuda = nullptr;
 };
 
 class Programa {
@@ -52,8 +56,10 @@ private:
     EstadoCompartido estado_;
     GuardiaCampos guardia_;
     cDecLista lista_;
+    VisorVentana visorPropio_;
     std::unique_ptr<MDIPadral> ventana_;
     std::unique_ptr<cDeclaraciones> declaracion_;
+    TeclaAyuda teclaAyuda_;
     bool idiomaConocido_ = false;
 };
 

@@ -1,161 +1,190 @@
+// The help window: pages, ways back and on, contents, keys.
+
 #include "core/help/help_window.h"
 
-#include <gtest/gtest.h>
-
-#include <QDir>
-#include <QFile>
+#include <QDialog>
 #include <QPointer>
-#include <QTemporaryDir>
+#include <QSplitter>
 #include <QTest>
-#include <QTextBrowser>
 #include <QToolButton>
 
-#include "support/recorders.h"
+#include "window_fixture.h"
 
-using namespace padral;
-using namespace padral::pruebas;
-
+namespace padral::pruebas {
 namespace {
 
-class Ayuda : public ::testing::Test {
-protected:
-    Ayuda() {
-        estado.CarpetaPrograma = carpeta.path();
-        escribir(QStringLiteral("Ayuda/indice.htm"),
-                 "<h1>Índice</h1><p><a href='lista.htm'>lista</a> "
-                 "<a href='nada.htm'>nada</a></p>");
-        escribir(QStringLiteral("Ayuda/lista.htm"), "<h1>La lista</h1>");
-        escribir(QStringLiteral("Laguntza/aurkibidea.htm"), "<h1>Aurkibidea</h1>");
-    }
+using Ventana = ConVentana;
 
-    void escribir(const QString& nombre, const char* html) {
-        const QString ruta = carpeta.path() + QStringLiteral("/Ayuda/") + nombre;
-        QDir().mkpath(QFileInfo(ruta).path());
-        QFile fichero(ruta);
-        ASSERT_TRUE(fichero.open(QIODevice::WriteOnly));
-        fichero.write(html);
-    }
-    void mostrar(const QString& tema) { MostrarAyuda(estado, tema, &formulario); }
-    QWidget* ventana() const { return formulario.findChild<QWidget*>(QStringLiteral("frmAyuda")); }
-    QTextBrowser* navegador() const { return ventana()->findChild<QTextBrowser*>(); }
-    QString texto() const { return navegador()->toPlainText(); }
-    QToolButton* boton(const char16_t* nombre) const {
-        return ventana()->findChild<QToolButton*>(QString::fromUtf16(nombre));
-    }
-    // A click on the link that shows `rotulo`.
-    void seguir(const QString& rotulo) {
-        QTextCursor sitio = navegador()->document()->find(rotulo);
-        ASSERT_FALSE(sitio.isNull());
-        sitio.setPosition(sitio.selectionStart() + 1);
-        QTest::mouseClick(navegador()->viewport(), Qt::LeftButton, Qt::NoModifier,
-                          navegador()->cursorRect(sitio).center());
-    }
-
-    GrabadorAvisos avisos;
-    RelojFijo reloj;
-    EstadoCompartido estado{avisos, reloj};
-    QTemporaryDir carpeta;
-    QWidget formulario;
-};
-
-TEST_F(Ayuda, LaDireccionSigueElIdioma) {
-    const QChar s = QDir::separator();
-    const QString carpetaAyuda = QStringLiteral("C") + s + QStringLiteral("Ayuda") + s;
-    EXPECT_EQ(DireccionAyuda(estado, QStringLiteral("C"), QStringLiteral("indice.htm")),
-              carpetaAyuda + QStringLiteral("Ayuda.chm::/indice.htm"));
-    estado.DesplazamientoIdioma = CatalogoTextos::DesplazamientoEuskera;
-    EXPECT_EQ(DireccionAyuda(estado, QStringLiteral("C"), QStringLiteral("aurkibidea.htm")),
-              carpetaAyuda + QStringLiteral("Laguntza.chm::/aurkibidea.htm"));
-}
-
-TEST_F(Ayuda, LaPaginaEstaJuntoAlFichero) {
-    EXPECT_EQ(PaginaAyuda(QStringLiteral("/p/Ayuda/Laguntza.chm::/zerrenda.htm")),
-              QStringLiteral("/p/Ayuda/Laguntza/zerrenda.htm"));
-}
-
-TEST_F(Ayuda, MuestraElTemaEnSuVentana) {
-    mostrar(QStringLiteral("indice.htm"));
+TEST_F(Ventana, ShowsTheTopicAndIsNotModal) {
+    mostrar(u"indice.htm");
     ASSERT_NE(ventana(), nullptr);
     EXPECT_TRUE(ventana()->isVisible());
     EXPECT_FALSE(ventana()->isModal());
     EXPECT_EQ(ventana()->windowTitle(), QStringLiteral("Ayuda"));
     EXPECT_TRUE(texto().startsWith(QStringLiteral("Índice"))) << texto().toStdString();
-    EXPECT_EQ(boton(u"cmdAtras")->text(), QStringLiteral("Atrás"));
-    EXPECT_FALSE(boton(u"cmdAtras")->isEnabled());
-    EXPECT_FALSE(boton(u"cmdAdelante")->isEnabled());
+    EXPECT_EQ(hijo<QToolButton>(u"cmdAtras")->text(), QStringLiteral("Atrás"));
+    EXPECT_FALSE(hijo<QToolButton>(u"cmdAtras")->isEnabled());
+    EXPECT_FALSE(hijo<QToolButton>(u"cmdAdelante")->isEnabled());
 }
 
-TEST_F(Ayuda, HablaEuskera) {
-    estado.DesplazamientoIdioma = CatalogoTextos::DesplazamientoEuskera;
-    mostrar(QStringLiteral("aurkibidea.htm"));
+TEST_F(Ventana, SpeaksBasque) {
+    enEuskera();
+    mostrar(u"aurkibidea.htm");
     EXPECT_EQ(ventana()->windowTitle(), QStringLiteral("Laguntza"));
     EXPECT_EQ(texto(), QStringLiteral("Aurkibidea"));
-    EXPECT_EQ(boton(u"cmdIndice")->text(), QStringLiteral("Aurkibidea"));
+    EXPECT_EQ(hijo<QToolButton>(u"cmdIndice")->text(), QStringLiteral("Aurkibidea"));
+    EXPECT_EQ(arbol()->topLevelItem(1)->text(0), QStringLiteral("Zerrenda"));
 }
 
-TEST_F(Ayuda, SeVaYSeVuelvePorLosEnlaces) {
-    mostrar(QStringLiteral("indice.htm"));
+TEST_F(Ventana, LinksLeadOnAndTheButtonsBack) {
+    mostrar(u"indice.htm");
     seguir(QStringLiteral("lista"));
-    EXPECT_EQ(texto(), QStringLiteral("La lista"));
-    QTest::mouseClick(boton(u"cmdAtras"), Qt::LeftButton);
+    EXPECT_TRUE(texto().startsWith(QStringLiteral("La lista")));
+    QTest::mouseClick(hijo<QToolButton>(u"cmdAtras"), Qt::LeftButton);
     EXPECT_TRUE(texto().startsWith(QStringLiteral("Índice")));
-    QTest::mouseClick(boton(u"cmdAdelante"), Qt::LeftButton);
-    EXPECT_EQ(texto(), QStringLiteral("La lista"));
-    QTest::mouseClick(boton(u"cmdIndice"), Qt::LeftButton);
+    QTest::mouseClick(hijo<QToolButton>(u"cmdAdelante"), Qt::LeftButton);
+    EXPECT_TRUE(texto().startsWith(QStringLiteral("La lista")));
+    QTest::mouseClick(hijo<QToolButton>(u"cmdIndice"), Qt::LeftButton);
     EXPECT_TRUE(texto().startsWith(QStringLiteral("Índice")));
 }
 
-TEST_F(Ayuda, UnaPaginaQueFaltaSeDice) {
-    mostrar(QStringLiteral("impresion<1>.htm"));
+TEST_F(Ventana, KeysLeadBackOnAndToTheStart) {
+    mostrar(u"indice.htm");
+    seguir(QStringLiteral("lista"));
+    tecla(Qt::Key_Left, Qt::AltModifier);
+    EXPECT_TRUE(texto().startsWith(QStringLiteral("Índice")));
+    tecla(Qt::Key_Right, Qt::AltModifier);
+    EXPECT_TRUE(texto().startsWith(QStringLiteral("La lista")));
+    tecla(Qt::Key_Home, Qt::AltModifier);
+    EXPECT_TRUE(texto().startsWith(QStringLiteral("Índice")));
+}
+
+TEST_F(Ventana, TheContentsShowTheLevelsAndThePageInHand) {
+    mostrar(u"lista.htm");
+    ASSERT_EQ(arbol()->topLevelItemCount(), 2);
+    EXPECT_EQ(arbol()->topLevelItem(0)->text(0), QStringLiteral("Índice"));
+    ASSERT_EQ(arbol()->topLevelItem(1)->childCount(), 1);
+    EXPECT_EQ(arbol()->topLevelItem(1)->child(0)->text(0), QStringLiteral("El NIF"));
+    EXPECT_TRUE(arbol()->topLevelItem(1)->isExpanded());
+    EXPECT_EQ(enMano(), QStringLiteral("La lista"));
+    mostrar(u"nif.htm");
+    EXPECT_EQ(enMano(), QStringLiteral("El NIF"));
+    tecla(Qt::Key_Left, Qt::AltModifier);
+    EXPECT_EQ(enMano(), QStringLiteral("La lista"));
+    mostrar(u"nada.htm");
+    EXPECT_EQ(enMano(), QString());
+}
+
+TEST_F(Ventana, TheContentsOpenAPageByClickAndByEnter) {
+    mostrar(u"indice.htm");
+    auto* lista = arbol()->topLevelItem(1);
+    QTest::mouseClick(arbol()->viewport(), Qt::LeftButton, Qt::NoModifier,
+                      arbol()->visualItemRect(lista).center());
+    EXPECT_TRUE(texto().startsWith(QStringLiteral("La lista")));
+    QTest::keyClick(arbol(), Qt::Key_Down);
+    EXPECT_TRUE(texto().startsWith(QStringLiteral("La lista")));
+    QTest::keyClick(arbol(), Qt::Key_Return);
+    EXPECT_TRUE(texto().startsWith(QStringLiteral("El NIF")));
+    // One page further each time, however it was chosen.
+    tecla(Qt::Key_Left, Qt::AltModifier);
+    tecla(Qt::Key_Left, Qt::AltModifier);
+    EXPECT_TRUE(texto().startsWith(QStringLiteral("Índice")));
+    EXPECT_FALSE(hijo<QToolButton>(u"cmdAtras")->isEnabled());
+}
+
+TEST_F(Ventana, AMissingPageIsSaid) {
+    mostrar(u"impresion<1>.htm");
     EXPECT_EQ(texto(), QStringLiteral("No se encuentra la página de ayuda «impresion<1>.htm»."));
-    estado.DesplazamientoIdioma = CatalogoTextos::DesplazamientoEuskera;
-    mostrar(QStringLiteral("inprimatzea.htm"));
+    enEuskera();
+    mostrar(u"inprimatzea.htm");
     EXPECT_EQ(texto(), QStringLiteral("Ez da «inprimatzea.htm» laguntza-orria aurkitu."));
 }
 
-TEST_F(Ayuda, UnEnlaceRotoSeDiceYSeVuelve) {
-    mostrar(QStringLiteral("indice.htm"));
+TEST_F(Ventana, ABrokenLinkIsSaidAndLeadsBack) {
+    mostrar(u"indice.htm");
     seguir(QStringLiteral("nada"));
     EXPECT_EQ(texto(), QStringLiteral("No se encuentra la página de ayuda «nada.htm»."));
-    QTest::mouseClick(boton(u"cmdAtras"), Qt::LeftButton);
+    QTest::mouseClick(hijo<QToolButton>(u"cmdAtras"), Qt::LeftButton);
     EXPECT_TRUE(texto().startsWith(QStringLiteral("Índice")));
 }
 
-TEST_F(Ayuda, LaVentanaAbiertaSirveOtraVez) {
-    mostrar(QStringLiteral("indice.htm"));
+TEST_F(Ventana, TheOpenWindowServesAgain) {
+    mostrar(u"indice.htm");
     QWidget* primera = ventana();
-    mostrar(QStringLiteral("lista.htm"));
+    mostrar(u"lista.htm");
     EXPECT_EQ(ventana(), primera);
-    EXPECT_EQ(texto(), QStringLiteral("La lista"));
+    EXPECT_TRUE(texto().startsWith(QStringLiteral("La lista")));
     EXPECT_EQ(formulario.findChildren<QWidget*>(QStringLiteral("frmAyuda")).size(), 1);
 }
 
-TEST_F(Ayuda, UnaPaginaCambiadaSeLeeOtraVez) {
-    mostrar(QStringLiteral("lista.htm"));
+TEST_F(Ventana, AnotherLanguageBringsItsContentsAndNoWayBack) {
+    mostrar(u"indice.htm");
+    mostrar(u"lista.htm");
+    enEuskera();
+    mostrar(u"zerrenda.htm");
+    EXPECT_EQ(texto(), QStringLiteral("Zerrenda"));
+    EXPECT_EQ(enMano(), QStringLiteral("Zerrenda"));
+    EXPECT_FALSE(hijo<QToolButton>(u"cmdAtras")->isEnabled());
+    QTest::mouseClick(hijo<QToolButton>(u"cmdIndice"), Qt::LeftButton);
+    EXPECT_EQ(texto(), QStringLiteral("Aurkibidea"));
+}
+
+TEST_F(Ventana, AChangedPageIsReadAgain) {
+    mostrar(u"lista.htm");
     escribir(QStringLiteral("Ayuda/lista.htm"), "<h1>Otra</h1>");
-    mostrar(QStringLiteral("lista.htm"));
+    mostrar(u"lista.htm");
     EXPECT_EQ(texto(), QStringLiteral("Otra"));
 }
 
-TEST_F(Ayuda, CerradaSeVaYNoAlargaElPrograma) {
-    mostrar(QStringLiteral("indice.htm"));
-    QPointer<QWidget> abierta = ventana();
+TEST_F(Ventana, EscClosesItAndItDoesNotKeepTheProgram) {
+    mostrar(u"indice.htm");
+    const QPointer<QWidget> abierta = ventana();
     EXPECT_FALSE(abierta->testAttribute(Qt::WA_QuitOnClose));
-    abierta->close();
+    tecla(Qt::Key_Escape);
+    EXPECT_TRUE(!abierta || !abierta->isVisible());
     QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
     EXPECT_TRUE(abierta.isNull());
-    mostrar(QStringLiteral("lista.htm"));
-    EXPECT_EQ(texto(), QStringLiteral("La lista"));
+    mostrar(u"lista.htm");
+    EXPECT_TRUE(texto().startsWith(QStringLiteral("La lista")));
 }
 
-// The folder of an installed program cannot be written; its data, not its help, lie elsewhere.
-TEST_F(Ayuda, SinCarpetaPropiaSeBuscaJuntoAlPrograma) {
-    QTemporaryDir otra;
-    estado.CarpetaPrograma = otra.path();
-    mostrar(QStringLiteral("indice.htm"));
-    const QString esperada =
-        QCoreApplication::applicationDirPath() + QStringLiteral("/Ayuda/Ayuda/indice.htm");
-    EXPECT_EQ(navegador()->source().toLocalFile(), esperada);
+TEST_F(Ventana, BelongsToAModalDialogSoThatItCanBeUsedOverIt) {
+    mostrar(u"indice.htm");
+    QDialog dialogo(&formulario);
+    dialogo.open();
+    mostrar(u"lista.htm");
+    auto* encima = dialogo.findChild<VentanaAyuda*>();
+    ASSERT_NE(encima, nullptr);
+    EXPECT_TRUE(encima->isVisible());
+    EXPECT_TRUE(QTest::qWaitForWindowActive(encima));
+    EXPECT_EQ(QApplication::activeModalWidget(), &dialogo);
+    auto* navegador = encima->findChild<QTextBrowser*>();
+    EXPECT_TRUE(navegador->toPlainText().startsWith(QStringLiteral("La lista")));
+    // A click from the window system reaches it, though the dialog is modal.
+    auto* inicio = encima->findChild<QToolButton*>(QStringLiteral("cmdIndice"));
+    QTest::mouseClick(encima->windowHandle(), Qt::LeftButton, Qt::NoModifier,
+                      inicio->mapTo(encima, inicio->rect().center()));
+    EXPECT_TRUE(navegador->toPlainText().startsWith(QStringLiteral("Índice")));
+}
+
+// Half of the smallest desktop: what is left at twice the size.
+TEST_F(Ventana, FitsASmallDesktop) {
+    for (const bool euskera : {false, true}) {
+        if (euskera) enEuskera();
+        mostrar(euskera ? u"aurkibidea.htm" : u"indice.htm");
+        ventana()->resize(500, 325);
+        QCoreApplication::processEvents();
+        EXPECT_EQ(ventana()->size(), QSize(500, 325));
+        for (const char16_t* nombre : {u"cmdAtras", u"cmdAdelante", u"cmdIndice"}) {
+            auto* boton = hijo<QToolButton>(nombre);
+            EXPECT_GE(boton->width(), boton->sizeHint().width());
+            EXPECT_TRUE(ventana()->rect().contains(boton->geometry()));
+        }
+        EXPECT_GE(navegador()->width(), 200);
+        EXPECT_GE(arbol()->width(), 100);
+    }
+    EXPECT_NE(ventana()->findChild<QSplitter*>(), nullptr);
 }
 
 }  // namespace
+}  // namespace padral::pruebas

@@ -1,4 +1,4 @@
-// Splash, choice of language, about box, help command, and the road back from printing.
+// Splash, choice of language, about box, and the road back from printing.
 
 #include <QApplication>
 #include <QCheckBox>
@@ -144,19 +144,6 @@ TEST_F(Dialogos, AboutBoxDescribesTheProgram) {
         guia().Ordenar(QStringLiteral("mnuabout"));
         EXPECT_TRUE(salio);
     }
-}
-
-TEST_F(Dialogos, HelpOpensTheTopicOfTheLanguage) {
-    for (const char* orden : {"mnucontenido", "Ayuda"})
-        for (const QString& idioma : {QStringLiteral("C"), QStringLiteral("E")}) {
-            arrancar(idioma);
-            QStringList temas;
-            ventana().mostrarAyuda = [&](const QString& tema) { temas << tema; };
-            guia().Ordenar(QString::fromLatin1(orden));
-            EXPECT_EQ(temas, QStringList{idioma == QStringLiteral("C")
-                                             ? QStringLiteral("indice.htm")
-                                             : QStringLiteral("aurkibidea.htm")});
-        }
 }
 
 TEST_F(Dialogos, CommandsRunUnderTheHourglass) {

@@ -32,16 +32,19 @@ protected:
              {QStringLiteral("DPadralLec.mdb"), QStringLiteral("DPadralMod.mdb")})
             ASSERT_TRUE(QFile::copy(QStringLiteral(PADRAL_BINARY_DIR "/data/") + nombre,
                                     carpeta_.filePath(QStringLiteral("Tablas/") + nombre)));
+        ASSERT_TRUE(QFile::link(QStringLiteral(PADRAL_BINARY_DIR "/bin/Ayuda"), rutaAyuda()));
         arrancar(QStringLiteral("C"));
     }
+
+    QString rutaAyuda() const { return carpeta_.filePath(QStringLiteral("Ayuda")); }
 
     /// Starts a program that has been started before, in that language.
     void arrancar(const QString& idioma) {
         guia_.reset();
         programa_.reset();
         const QString binarios = QStringLiteral(PADRAL_BINARY_DIR "/bin");
-        programa_ = std::make_unique<Programa>(Puertos{avisos, reloj_, impresora_}, binarios,
-                                               carpeta_.path());
+        programa_ = std::make_unique<Programa>(Puertos{avisos, reloj_, impresora_, visor_},
+                                               binarios, carpeta_.path());
         ASSERT_TRUE(programa_->Iniciar());
         estado().mdi.IDI(idioma);
         estado().act.ActOnline = 1;
@@ -94,6 +97,8 @@ protected:
     GrabadorAvisos avisos;
     RelojFijo reloj_;
     SinImpresora impresora_;
+    /// Set before a start: shows the help instead of the program's own window.
+    VisorAyuda* visor_ = nullptr;
     QTemporaryDir carpeta_;
     std::unique_ptr<Programa> programa_;
     std::unique_ptr<Guia> guia_;

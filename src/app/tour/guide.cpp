@@ -139,13 +139,21 @@ void Guia::TomarVentana() {
     Respirar();
 }
 
+// What lies over the main window: a modal dialog, or a window that stays open beside it.
+QWidget* Guia::encima() const {
+    if (QWidget* modal = QApplication::activeModalWidget()) return modal;
+    for (QWidget* otra : QApplication::topLevelWidgets())
+        if (otra->isVisible() && otra != ventana_ && otra->inherits("QDialog")) return otra;
+    return nullptr;
+}
+
 void Guia::Foto(const QString& nombre) {
     QPixmap imagen = ventana_->isVisible() ? ventana_->grab() : QPixmap();
-    QWidget* modal = QApplication::activeModalWidget();
+    QWidget* modal = encima();
     if (modal && modal != ventana_) {
-        const QPixmap encima = modal->grab();
+        const QPixmap tapa = modal->grab();
         if (imagen.isNull()) {
-            guardar(encima, nombre);
+            guardar(tapa, nombre);
             return;
         }
         QPainter pintor(&imagen);
@@ -154,7 +162,7 @@ void Guia::Foto(const QString& nombre) {
         pintor.fillRect(QRect(esquina, modal->size()).adjusted(-1, -22, 1, 1), Qt::darkGray);
         pintor.setPen(Qt::white);
         pintor.drawText(esquina + QPoint(8, -6), modal->windowTitle());
-        pintor.drawPixmap(esquina, encima);
+        pintor.drawPixmap(esquina, tapa);
     }
     guardar(imagen, nombre);
 }

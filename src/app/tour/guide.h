@@ -62,6 +62,7 @@ public:
     const QStringList& Fotos() const { return fotos_; }
 
 private:
+    QWidget* encima() const;
     void vigilar();
     void atenderMensaje(QWidget* caja);
     void guardar(const QPixmap& imagen, const QString& nombre);

@@ -141,6 +141,10 @@ void Visita::declararPersona() {
                 fecha(QStringLiteral("21"), QStringLiteral("11"), QStringLiteral("2026")));
     guia_->Pulsar(QStringLiteral("chkDeclaracionInicio"));
     guia_->Pulsar(QStringLiteral("chkElMismo"));
+    guia_->Tecla(Qt::Key_F1);
+    foto(QStringLiteral("15-help"));
+    guia_->Tecla(Qt::Key_Escape);
+    guia_->TomarVentana();
     guia_->Pulsar(QStringLiteral("cmdAceptar"));
 }
 

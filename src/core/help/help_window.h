@@ -1,22 +1,46 @@
 #pragma once
-// The help: pages of one topic each, shown in a window of the program.
+// The window of the help: contents and search at the left, the page at the right, and the ways
+// back, on and to the start page.
 
-#include <QString>
-#include <QWidget>
+#include <QDialog>
 
 #include "core/shared_state.h"
 
+class QTabWidget;
+class QToolButton;
+
 namespace padral {
 
-/// Where the help on `tema` lies: help file of the language of the run in the folder `Ayuda` of
-/// `carpeta`, then "::/" and the topic.
-QString DireccionAyuda(const EstadoCompartido& estado, const QString& carpeta, const QString& tema);
-/// The page that an address names: it lies in a folder beside the help file, with its name.
-QString PaginaAyuda(const QString& direccion);
+class ArbolContenido;
+class NavegadorAyuda;
+class PanelBusqueda;
 
-/// Shows the page `tema` (e.g. u"indice.htm") in the language of the run, in the help window of
-/// `formulario`; a window that is open already is used again. Does not wait for the user. A page
-/// that is not there shows a sentence with its name.
-void MostrarAyuda(const EstadoCompartido& estado, const QString& tema, QWidget* formulario);
+class VentanaAyuda : public QDialog {
+    Q_OBJECT
+public:
+    explicit VentanaAyuda(QWidget* dueño);
+
+    /// Takes title and captions in the language of the run.
+    void Poner(const EstadoCompartido& estado);
+    /// Shows the page `tema` of the pages in `carpeta`; the contents button leads to `inicio`.
+    void Abrir(const QString& carpeta, const QString& tema, const QString& inicio);
+
+private:
+    QToolButton* boton(const QString& nombre, int icono);
+    void crearBotones();
+    QWidget* crearPaneles();
+    void crearAtajos();
+    void abrirPagina(const QString& pagina);
+    void irABuscar();
+
+    NavegadorAyuda* navegador_;
+    ArbolContenido* arbol_;
+    PanelBusqueda* busqueda_;
+    QTabWidget* fichas_;
+    QToolButton* atras_ = nullptr;
+    QToolButton* adelante_ = nullptr;
+    QToolButton* indice_ = nullptr;
+    QString carpeta_, inicio_;
+};
 
 }  // namespace padral

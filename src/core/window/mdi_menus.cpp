@@ -6,6 +6,7 @@
 #include <QToolBar>
 #include <array>
 
+#include "core/help/help_topics.h"
 #include "core/window/mdi_padral.h"
 #include "ui/art.h"
 
@@ -80,7 +81,7 @@ void MDIPadral::crearMenus() {
     conectar(u"mnueliminar",
              [this] { abrirLista(QStringLiteral("E"), QStringLiteral("E"), true); });
     conectar(u"mnunueva", [this] { nueva(); });
-    conectar(u"mnucontenido", [this] { ayuda(); });
+    conectar(u"mnucontenido", [this] { ayuda(formularioEnMano()); });
     conectar(u"mnuabout", [this] {
         // A dialog takes the user's input.
         CursorEspera(false);
@@ -100,7 +101,7 @@ void MDIPadral::crearBarra() {
         [this] { abrirLista(QStringLiteral("C"), QStringLiteral("A"), false); },
         [this] { abrirLista(QStringLiteral("E"), QStringLiteral("E"), false); },
         [this] { salir(); },
-        [this] { ayuda(); },
+        [this] { ayuda(formularioEnMano()); },
     };
     barra->addSeparator();
     for (std::size_t i = 0; i < BotonesBarra.size(); ++i) {
@@ -182,10 +183,14 @@ void MDIPadral::nueva() {
     DeshabilitarMenus();
 }
 
-void MDIPadral::ayuda() {
-    if (mostrarAyuda)
-        mostrarAyuda(
-            estado_.SegunIdioma(QStringLiteral("indice.htm"), QStringLiteral("aurkibidea.htm")));
+void MDIPadral::ayuda(const QString& formulario) {
+    if (mostrarAyuda) mostrarAyuda(TemaDe(estado_, formulario));
+}
+
+void MDIPadral::AyudaDe(const QString& formulario) {
+    // A command is under way: the key is dropped like any other.
+    if (esperando_) return;
+    orden([&] { ayuda(formulario == objectName() ? formularioEnMano() : formulario); });
 }
 
 void MDIPadral::salir() {

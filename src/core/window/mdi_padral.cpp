@@ -99,6 +99,11 @@ void MDIPadral::Mostrar(const QString& nombre) {
     enfocar(pantalla);
 }
 
+QString MDIPadral::formularioEnMano() const {
+    const auto* pagina = qobject_cast<QScrollArea*>(paginas_->currentWidget());
+    return pagina ? pagina->widget()->objectName() : objectName();
+}
+
 void MDIPadral::enfocar(Pantalla* pantalla) {
     QWidget* foco = pantalla->FocoInicial();
     if (!foco) {

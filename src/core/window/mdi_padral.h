@@ -37,12 +37,15 @@ public:
     void Registrar(const QString& nombre, std::function<QWidget*()> fabrica);
     /// Shown once, at the first activation of a fresh installation.
     std::function<void()> primerArranque;
+    /// Shows a page of the help.
     std::function<void(const QString& tema)> mostrarAyuda;
     std::function<void()> mostrarAcercaDe;
 
     void Anadir_captions();
     /// Shows the window in its own size, or over the whole screen where that is smaller.
     void MostrarEnPantalla();
+    /// The help on a form, wherever it was asked for; on the window itself: on its open screen.
+    void AyudaDe(const QString& formulario);
     /// Unloads every screen and dialog whose name differs.
     void DescargarTodosLosFormularios(const QString& nombre);
     bool HayModificaciones() const { return ordenes_.hayModificaciones(); }
@@ -67,7 +70,8 @@ private:
     void orden(const std::function<void()>& hacer);
     void abrirLista(const QString& modo, const QString& entrada, bool desdeMenu);
     void nueva();
-    void ayuda();
+    void ayuda(const QString& formulario);
+    QString formularioEnMano() const;
     void salir();
     void primeraActivacion();
     bool avisarPendientes();
