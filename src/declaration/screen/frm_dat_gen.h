@@ -2,7 +2,6 @@
 // The general data of a declaration: first page of the form and hub of all sections.
 
 #include <QCheckBox>
-#include <QComboBox>
 #include <QLabel>
 #include <QPushButton>
 #include <QTabBar>
@@ -11,6 +10,7 @@
 
 #include "declaration/declaration.h"
 #include "declaration/section_boxes.h"
+#include "ui/combo.h"
 #include "ui/fields.h"
 #include "ui/screen.h"
 
@@ -106,7 +106,7 @@ private:
     CampoTexto *txtDNIRepresentante_, *txtNombreRepresentante_, *txtFirmaEnCalidadDe_;
     CampoTexto *txtDNIAnterior_, *txtNombreAnterior_;
     CampoFecha *mskFechaDeclaracion_, *mskFechaModificacion_, *mskFechaConst_, *mskFechaInscrip_;
-    QComboBox* cmbMotivoCambio_;
+    CajaCombo* cmbMotivoCambio_;
     QCheckBox* chkElMismo_;
     std::array<QCheckBox*, 4> tipos_{};
     std::array<QCheckBox*, 6> solicitudes_{};

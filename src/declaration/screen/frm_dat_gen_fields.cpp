@@ -1,8 +1,5 @@
 // Leaving the fields of the general data screen.
 
-#include <QCoreApplication>
-#include <QKeyEvent>
-
 #include "declaration/screen/frm_dat_gen.h"
 
 namespace padral {
@@ -10,30 +7,6 @@ namespace padral {
 namespace {
 
 constexpr int TituloFecha = 465;
-
-/// Enter in a combo takes the item and moves on.
-class IntroAvanza : public QObject {
-public:
-    IntroAvanza(QComboBox* combo, std::function<void()> elegir)
-        : QObject(combo), combo_(combo), elegir_(std::move(elegir)) {
-        combo->installEventFilter(this);
-    }
-
-protected:
-    bool eventFilter(QObject*, QEvent* evento) override {
-        if (evento->type() != QEvent::KeyPress) return false;
-        const int tecla = static_cast<QKeyEvent*>(evento)->key();
-        if (tecla != Qt::Key_Return && tecla != Qt::Key_Enter) return false;
-        elegir_();
-        QKeyEvent tab(QEvent::KeyPress, Qt::Key_Tab, Qt::NoModifier);
-        QCoreApplication::sendEvent(combo_, &tab);
-        return true;
-    }
-
-private:
-    QComboBox* combo_;
-    std::function<void()> elegir_;
-};
 
 }  // namespace
 
@@ -177,7 +150,7 @@ void FrmDatGen::conectarCampos() {
         return true;
     });
     connect(cmbMotivoCambio_, &QComboBox::activated, this, elegir);
-    new IntroAvanza(cmbMotivoCambio_, elegir);
+    cmbMotivoCambio_->alPulsarIntro = elegir;
 }
 
 }  // namespace padral

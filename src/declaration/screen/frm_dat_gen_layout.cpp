@@ -184,10 +184,7 @@ QWidget* FrmDatGen::crearModificacion() {
     etiquetas_.emplace_back(cabeza, 393);
     txtDNIAnterior_ = texto(QStringLiteral("txtDNIAnterior"), AnchoNif);
     txtNombreAnterior_ = texto(QStringLiteral("txtNombreAnterior"), AnchoNombre);
-    cmbMotivoCambio_ = new QComboBox(fraModificacion_);
-    cmbMotivoCambio_->setObjectName(QStringLiteral("cmbMotivoCambio"));
-    cmbMotivoCambio_->setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
-    cmbMotivoCambio_->setMinimumContentsLength(30);
+    cmbMotivoCambio_ = new CajaCombo(QStringLiteral("cmbMotivoCambio"), 30, fraModificacion_);
     anchoCaracteres(txtDNIAnterior_, AnchoNif + 2);
     txtDNIAnterior_->setSizePolicy(QSizePolicy::Maximum, QSizePolicy::Fixed);
     const auto anadir = [&](const char16_t* nombre, QWidget* campo, int id) {

@@ -1,0 +1,46 @@
+#include "ui/combo.h"
+
+#include <QAbstractItemView>
+#include <QCoreApplication>
+#include <QEvent>
+#include <QKeyEvent>
+#include <QScrollBar>
+#include <QStyle>
+#include <QWheelEvent>
+
+namespace padral {
+
+CajaCombo::CajaCombo(const QString& nombre, int caracteres, QWidget* padre) : QComboBox(padre) {
+    setObjectName(nombre);
+    setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
+    setMinimumContentsLength(caracteres);
+    connect(model(), &QAbstractItemModel::rowsInserted, this,
+            [this](const QModelIndex&, int desde, int hasta) { ensancharLista(desde, hasta); });
+}
+
+// Wider rows only: a list that is filled again keeps the room that it once had.
+void CajaCombo::ensancharLista(int desde, int hasta) {
+    const int aparte = view()->verticalScrollBar()->sizeHint().width() +
+                       4 * (style()->pixelMetric(QStyle::PM_FocusFrameHMargin, nullptr, this) + 1);
+    int ancho = view()->minimumWidth();
+    for (int i = desde; i <= hasta; ++i)
+        ancho = std::max(ancho, fontMetrics().horizontalAdvance(itemText(i)) + aparte);
+    view()->setMinimumWidth(ancho);
+}
+
+void CajaCombo::changeEvent(QEvent* evento) {
+    QComboBox::changeEvent(evento);
+    if (evento->type() == QEvent::FontChange && count() > 0) ensancharLista(0, count() - 1);
+}
+
+void CajaCombo::keyPressEvent(QKeyEvent* evento) {
+    if (evento->key() != Qt::Key_Return && evento->key() != Qt::Key_Enter)
+        return QComboBox::keyPressEvent(evento);
+    if (alPulsarIntro) alPulsarIntro();
+    QKeyEvent tab(QEvent::KeyPress, Qt::Key_Tab, Qt::NoModifier);
+    QCoreApplication::sendEvent(this, &tab);
+}
+
+void CajaCombo::wheelEvent(QWheelEvent* evento) { evento->ignore(); }
+
+}  // namespace padral

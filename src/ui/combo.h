@@ -1,0 +1,28 @@
+#pragma once
+
+#include <QComboBox>
+#include <functional>
+
+namespace padral {
+
+/// A list to choose from. Its drop-down is as wide as its widest row; Enter moves on as Tab does;
+/// the wheel scrolls the screen and leaves the choice alone.
+class CajaCombo : public QComboBox {
+    Q_OBJECT
+public:
+    /// `caracteres` is the width that it asks for, whatever its rows.
+    CajaCombo(const QString& nombre, int caracteres, QWidget* padre = nullptr);
+
+    /// Runs on Enter, before the focus moves on.
+    std::function<void()> alPulsarIntro;
+
+protected:
+    void keyPressEvent(QKeyEvent* evento) override;
+    void wheelEvent(QWheelEvent* evento) override;
+    void changeEvent(QEvent* evento) override;
+
+private:
+    void ensancharLista(int desde, int hasta);
+};
+
+}  // namespace padral

@@ -1,0 +1,71 @@
+#include "ui/combo.h"
+
+#include <gtest/gtest.h>
+
+#include <QAbstractItemView>
+#include <QLineEdit>
+#include <QTest>
+#include <QVBoxLayout>
+#include <QWheelEvent>
+
+using padral::CajaCombo;
+
+namespace {
+
+struct Combo : ::testing::Test {
+    Combo() {
+        auto* columna = new QVBoxLayout(&ventana);
+        combo = new CajaCombo(QStringLiteral("cmb"), 5, &ventana);
+        siguiente = new QLineEdit(&ventana);
+        columna->addWidget(combo);
+        columna->addWidget(siguiente);
+        combo->addItems({QStringLiteral("UNO"), QStringLiteral("DOS")});
+        ventana.show();
+        ventana.activateWindow();
+        EXPECT_TRUE(QTest::qWaitForWindowActive(&ventana));
+        combo->setFocus();
+    }
+
+    QWidget ventana;
+    CajaCombo* combo;
+    QLineEdit* siguiente;
+};
+
+TEST_F(Combo, TheListIsAsWideAsItsWidestRow) {
+    const QString larga(60, u'W');
+    combo->addItem(larga);
+    combo->addItem(QStringLiteral("I"));
+    EXPECT_GT(combo->view()->minimumWidth(), combo->fontMetrics().horizontalAdvance(larga));
+    EXPECT_LT(combo->width(), combo->view()->minimumWidth());
+}
+
+TEST_F(Combo, TheListGrowsWithTheLetters) {
+    const int antes = combo->view()->minimumWidth();
+    QFont grande = combo->font();
+    grande.setPointSizeF(grande.pointSizeF() * 3);
+    combo->setFont(grande);
+    EXPECT_GT(combo->view()->minimumWidth(), antes);
+}
+
+TEST_F(Combo, EnterActsAndMovesOn) {
+    for (const auto tecla : {Qt::Key_Return, Qt::Key_Enter}) {
+        combo->setFocus();
+        int veces = 0;
+        combo->alPulsarIntro = [&veces] { ++veces; };
+        QTest::keyClick(combo, tecla);
+        EXPECT_EQ(veces, 1);
+        EXPECT_TRUE(siguiente->hasFocus());
+    }
+}
+
+TEST_F(Combo, ArrowsChooseAndTheWheelDoesNot) {
+    QTest::keyClick(combo, Qt::Key_Down);
+    EXPECT_EQ(combo->currentIndex(), 1);
+    QWheelEvent rueda(QPointF(5, 5), combo->mapToGlobal(QPointF(5, 5)), QPoint(), QPoint(0, 120),
+                      Qt::NoButton, Qt::NoModifier, Qt::NoScrollPhase, false);
+    QCoreApplication::sendEvent(combo, &rueda);
+    EXPECT_EQ(combo->currentIndex(), 1);
+    EXPECT_FALSE(rueda.isAccepted());
+}
+
+}  // namespace
