@@ -1,0 +1,154 @@
+// Every screen and dialog of the program, in both languages and with small and large letters: no
+// caption cut off, no access key used twice, no text of the other language.
+
+#include <QApplication>
+#include <QPushButton>
+#include <QTabBar>
+
+#include "online/frm_inicio.h"
+#include "program/window_fixture.h"
+#include "screens/screen_audit.h"
+
+namespace padral::pruebas {
+namespace {
+
+struct Paseo {
+    const char* idioma;
+    double letra;  // size of the letters, 1: the desktop's own
+};
+void PrintTo(const Paseo& p, std::ostream* salida) { *salida << p.idioma << " x " << p.letra; }
+
+/// Every form that the program may have.
+constexpr const char* Formularios[] = {
+    "FrmDatGen",          "FrmDecLista",       "FrmImOf",      "FrmApartado2",
+    "FrmApartado3",       "FrmApartado3_2015", "frmApartado4", "frmApartado4_2015",
+    "frmApartado5",       "frmApartado5_2015", "frmApartado6", "FrmApartado7",
+    "frmListaParticipes", "frmDatosParticipe", "frmAnexoII",   "frmPreferencias",
+    "FrmVersionCheck",    "FrmSinConexion"};
+
+/// Controls that show both languages whatever the run, by form.
+const QMap<QString, QStringList> Bilingues = {
+    {QStringLiteral("FrmIdioma"),
+     {QStringLiteral("FrmIdioma"), QStringLiteral("frame1"), QStringLiteral("cmdcastellano"),
+      QStringLiteral("cmdeuskera"), QStringLiteral("chkActOnline"),
+      QStringLiteral("lblActOnline")}},
+    {QStringLiteral("frmAbout"), {QStringLiteral("lblcopy")}},
+    {QStringLiteral("frmInicio"),
+     {QStringLiteral("lblTitulo"), QStringLiteral("lblTitulo1"), QStringLiteral("lblVersion"),
+      QStringLiteral("lblAct"), QStringLiteral("Label1"), QStringLiteral("lblDescripcion"),
+      QStringLiteral("lblcopy")}},
+};
+
+class TodasLasPantallas : public ConPrograma, public ::testing::WithParamInterface<Paseo> {
+protected:
+    void SetUp() override {
+        fuente_ = QApplication::font();
+        QFont otra = fuente_;
+        otra.setPointSizeF(fuente_.pointSizeF() * GetParam().letra);
+        QApplication::setFont(otra);
+        ConPrograma::SetUp();
+        arrancar(QString::fromLatin1(GetParam().idioma));
+    }
+    void TearDown() override {
+        guia_.reset();
+        programa_.reset();
+        QApplication::setFont(fuente_);
+    }
+
+    bool euskera() { return estado().DesplazamientoIdioma != 0; }
+
+    /// Looks at a window as it stands. `nombre` is the form, `momento` what it is showing.
+    void mirar(const QWidget& en, const QString& nombre, const char* momento = "") {
+        vistas_.insert(nombre);
+        guia().Respirar();
+        const auto comprobar = [&](const QStringList& faltas) {
+            EXPECT_TRUE(faltas.isEmpty()) << nombre.toStdString() << ' ' << momento << '\n'
+                                          << faltas.join(u'\n').toStdString();
+        };
+        comprobar(RotulosCortados(en));
+        comprobar(TeclasRepetidas(en));
+        comprobar(TextosEnOtroIdioma(en, euskera(), Bilingues.value(nombre)));
+    }
+    void mirarVentana(const char* pantalla, const char* momento = "") {
+        mirar(ventana(), QString::fromLatin1(pantalla), momento);
+    }
+    void mirarDialogo(const char* nombre, const char* salida) {
+        guia().AlDialogo(QString::fromLatin1(nombre), [this, nombre, salida](QWidget* dialogo) {
+            mirar(*dialogo, QString::fromLatin1(nombre));
+            guia().Pulsar(QString::fromLatin1(salida));
+        });
+    }
+
+    void recorrerDatosGenerales() {
+        guia().Ordenar(QStringLiteral("Nueva"));
+        mirarVentana("FrmDatGen", "new, first tab");
+        guia().ElegirPestana(QStringLiteral("Pestaña"), 1);
+        mirarVentana("FrmDatGen", "new, second tab");
+        guia().Pulsar(QStringLiteral("chkDeclaracionModificacion"));
+        mirarVentana("FrmDatGen", "modification");
+        guia().Pulsar(QStringLiteral("cmdCancelar"));
+    }
+    void recorrerLista() {
+        guardarUna();
+        guia().Ordenar(QStringLiteral("Abrir"));
+        mirarVentana("FrmDecLista", "open");
+        guia().Pulsar(QStringLiteral("cmdBuscar"));
+        guia().PulsarCelda(QStringLiteral("flxDeclaraciones"), 0, 2);
+        guia().Teclear(QStringLiteral("lasa"));
+        mirarVentana("FrmDecLista", "search");
+        guia().Pulsar(QStringLiteral("cmdBuscar"));
+        mirarVentana("FrmDecLista", "result");
+        guia().Pulsar(QStringLiteral("cmdAnterior"));
+        guia().Ordenar(QStringLiteral("Borrar"));
+        mirarVentana("FrmDecLista", "delete");
+        guia().Pulsar(QStringLiteral("cmdAnterior"));
+    }
+    void recorrerImpresion() {
+        guia().Ordenar(QStringLiteral("Abrir"));
+        guia().PulsarCelda(QStringLiteral("flxDeclaraciones"), 0, 1);
+        guia().Pulsar(QStringLiteral("cmdVerDeclaracion"));
+        mirarVentana("FrmDatGen", "stored");
+        guia().Pulsar(QStringLiteral("cmdImprimir"));
+        mirar(*guia().Control(QStringLiteral("FrmImOf")), QStringLiteral("FrmImOf"));
+        guia().Pulsar(QStringLiteral("btnCancelar"));
+        guia().Pulsar(QStringLiteral("cmdCancelar"));
+    }
+    void recorrerDialogos() {
+        mirarDialogo("frmAbout", "cmdOK");
+        guia().Ordenar(QStringLiteral("mnuabout"));
+        mirarDialogo("FrmIdioma", euskera() ? "cmdeuskera" : "cmdcastellano");
+        ventana().primerArranque();
+        frmInicio inicio(estado());
+        inicio.Cargar();
+        mirar(inicio, QStringLiteral("frmInicio"));
+    }
+    void recorrerAyuda() {
+        guia().Ordenar(QStringLiteral("mnucontenido"));
+        const auto* ayuda = ventana().findChild<QWidget*>(QStringLiteral("frmAyuda"));
+        ASSERT_NE(ayuda, nullptr);
+        mirar(*ayuda, QStringLiteral("frmAyuda"));
+    }
+
+    QFont fuente_;
+    QSet<QString> vistas_;
+};
+
+TEST_P(TodasLasPantallas, SeLeenEnterasYEnSuIdioma) {
+    mirarVentana("MDIPadral");
+    recorrerDatosGenerales();
+    recorrerLista();
+    recorrerImpresion();
+    recorrerDialogos();
+    recorrerAyuda();
+    for (const char* formulario : Formularios) {
+        const QString nombre = QString::fromLatin1(formulario);
+        EXPECT_TRUE(vistas_.contains(nombre) || !ventana().Disponible(nombre)) << formulario;
+    }
+}
+
+INSTANTIATE_TEST_SUITE_P(Idiomas, TodasLasPantallas,
+                         ::testing::Values(Paseo{"C", 1}, Paseo{"E", 1}, Paseo{"C", 1.5},
+                                           Paseo{"E", 1.5}));
+
+}  // namespace
+}  // namespace padral::pruebas
