@@ -81,6 +81,18 @@ void PonerFuente(Impresora& p, const char16_t* nombre) {
     p.estado.fuente = QString::fromUtf16(nombre);
 }
 
+void MarcoGrueso(Impresora& p, Mm x, Mm y1, Mm y2) {
+    p.estado.pluma = PlumaGruesa;
+    DibujarMarco(p, x, y1, x + AnchoImpreso, y2);
+}
+
+void ImprimirBloque(const Hoja& hoja, Mm x, Mm y, const Bloque& bloque) {
+    const Mm origen = y + bloque.origen;
+    MarcoGrueso(hoja.impresora, x, origen + bloque.arriba, origen + bloque.abajo);
+    bloque.dibujar(hoja, x, origen);
+    bloque.rellenar(hoja, x, origen);
+}
+
 void DibujarCabeceraComun(const Hoja& hoja, Mm x, Mm y) {
     Impresora& p = hoja.impresora;
     DibujarMarco(p, x, y, x + AnchoImpreso, y + AltoCabecera);

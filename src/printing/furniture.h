@@ -15,6 +15,19 @@ void DibujarIdentificacion(const Hoja& hoja, Mm x, Mm y);
 /// Its values; leaves size 8.
 void RellenarIdentificacion(const Hoja& hoja, Mm x, Mm y);
 
+/// Outer frame of a section over the whole width, from `y1` to `y2`.
+void MarcoGrueso(Impresora& p, Mm x, Mm y1, Mm y2);
+
+/// A block of a page: its origin below the Y of the page, and its frame from its origin.
+struct Bloque {
+    Mm origen;
+    Mm arriba, abajo;
+    void (*dibujar)(const Hoja&, Mm x, Mm y);
+    void (*rellenar)(const Hoja&, Mm x, Mm y);
+};
+/// Frame, empty form and values of the block.
+void ImprimirBloque(const Hoja& hoja, Mm x, Mm y, const Bloque& bloque);
+
 inline constexpr const char16_t* FuenteRomana = u"times new roman";
 inline constexpr const char16_t* FuenteEstrecha = u"Arial Narrow";
 

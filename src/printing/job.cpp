@@ -2,6 +2,7 @@
 
 #include "declaration/general_data.h"
 #include "printing/page1.h"
+#include "printing/page2.h"
 #include "printing/primitives.h"
 
 namespace padral {
@@ -26,9 +27,15 @@ struct EntradaPagina {
 
 bool Siempre(const RegistrosImpresos& /*registros*/, const QString& /*tipoCopia*/) { return true; }
 
+bool ConApartado2o3(const RegistrosImpresos& registros, const QString& /*tipoCopia*/) {
+    const cDatosGenerales& datos = registros.generales;
+    return datos.Apartado2 == u"X" || datos.Apartado3 == u"X";
+}
+
 // In the order of the copy.
 constexpr EntradaPagina paginas[] = {
     {Siempre, 0.1F, 38.5F, ImprimirPaginasPrincipales},
+    {ConApartado2o3, 0.1F, 35.5F, ImprimirHoja2},
 };
 
 QString TituloDocumento(const RegistrosImpresos& registros, const QString& tipoCopia) {

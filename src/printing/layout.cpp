@@ -1,11 +1,10 @@
 #include "printing/layout.h"
 
+#include "core/shared_state.h"
 #include "printing/primitives.h"
 
 namespace padral {
 namespace {
-
-constexpr float CuerpoCasillas = 8;
 
 QString Cadena(const char16_t* texto) { return QString::fromUtf16(texto); }
 
@@ -29,8 +28,9 @@ void EscribirRotulo(Impresora& p, Mm x, Mm y, const Rotulo& r) {
         EscribirBilingue(p, x + r.x, y + r.y, Cadena(r.texto), Cadena(r.segundo));
 }
 
-void DibujarNumero(Impresora& p, Mm x, Mm y, const Casilla& c) {
-    PonerLetra(p, CuerpoCasillas, true);
+void DibujarNumero(Impresora& p, Mm x, Mm y, const Casilla& c, float cuerpo) {
+    if (c.numero == nullptr) return;
+    PonerLetra(p, cuerpo, true);
     const Punto en = {x + c.lugarNumero.x, y + c.lugarNumero.y};
     if (c.numeroADerecha)
         EscribirDerecha(p, en.x, en.y, Cadena(c.numero));
@@ -47,6 +47,14 @@ void PonerLetra(Impresora& p, float cuerpo, bool negrita) {
 
 Valor Marca(bool condicion) { return condicion ? Valor(QStringLiteral("X")) : std::nullopt; }
 
+Valor NumeroSiHay(qint32 numero) {
+    return numero == 0 ? std::nullopt : Valor(QString::number(numero));
+}
+
+Valor FechaSiHay(const Hoja& hoja, qint32 fecha) {
+    return fecha == 0 ? std::nullopt : Valor(hoja.estado.fecha.LongToString(fecha));
+}
+
 void DibujarRayas(Impresora& p, Mm x, Mm y, std::span<const Raya> rayas) {
     for (const Raya& r : rayas) DibujarLinea(p, x + r.x1, y + r.y1, x + r.x2, y + r.y2);
 }
@@ -56,9 +64,10 @@ void DibujarRotulos(Impresora& p, Mm x, Mm y, const GrupoRotulos& grupo) {
     for (const Rotulo& r : grupo.rotulos) EscribirRotulo(p, x, y, r);
 }
 
-void DibujarCasillas(Impresora& p, Mm x, Mm y, std::span<const Casilla> casillas) {
+void DibujarCasillas(Impresora& p, Mm x, Mm y, std::span<const Casilla> casillas,
+                     float cuerpoNumeros) {
     for (const Casilla& c : casillas) {
-        DibujarNumero(p, x, y, c);
+        DibujarNumero(p, x, y, c, cuerpoNumeros);
         DibujarRotulos(p, x, y, {c.cuerpo, false, c.rotulos});
         const Marco& m = c.marco;
         if (m.Hay()) DibujarMarco(p, x + m.x1, y + m.y1, x + m.x2, y + m.y2);
@@ -67,9 +76,9 @@ void DibujarCasillas(Impresora& p, Mm x, Mm y, std::span<const Casilla> casillas
 
 void RellenarCasillas(const Hoja& hoja, Mm x, Mm y, std::span<const Casilla> casillas) {
     Impresora& p = hoja.impresora;
-    PonerLetra(p, CuerpoCasillas, true);
     for (const Casilla& c : casillas) {
         if (c.valor == nullptr) continue;
+        PonerLetra(p, c.cuerpoValor, true);
         if (const Valor valor = c.valor(hoja))
             EscribirTexto(p, x + c.lugarValor.x, y + c.lugarValor.y, *valor);
     }

@@ -10,10 +10,14 @@ namespace padral {
 
 struct EstadoCompartido;
 class cDatosGenerales;
+struct DatosApartado2;
+struct DatosApartado3;
 
 /// The records that the pages read. Printing changes none of them.
 struct RegistrosImpresos {
     const cDatosGenerales& generales;
+    const DatosApartado2& apartado2;
+    const DatosApartado3& apartado3;
 };
 
 /// What the routines of a page work with.
@@ -65,16 +69,18 @@ constexpr Rotulo EnAncho(Mm ancho, Rotulo rotulo) {
 /// What stands in a box; nothing when the box stays empty.
 using Valor = std::optional<QString>;
 
-/// A numbered box of the form: number, frame or field, captions, and the value with its place.
+/// A numbered box of the form: number, frame or field, captions, and the value with its place. A
+/// box with two check frames takes two rows, the second without number.
 struct Casilla {
-    const char16_t* numero;
-    Punto lugarNumero;
+    const char16_t* numero = nullptr;
+    Punto lugarNumero = {};
     bool numeroADerecha = false;  ///< the number ends at its place, which is its top
     Marco marco = {};
     float cuerpo = 8;  ///< size of the captions
-    Rotulo rotulos[3] = {};
+    Rotulo rotulos[4] = {};
     Valor (*valor)(const Hoja&) = nullptr;
     Punto lugarValor = {};
+    float cuerpoValor = 8;
 };
 
 /// Captions that share size and weight.
@@ -86,9 +92,10 @@ struct GrupoRotulos {
 
 void DibujarRayas(Impresora& p, Mm x, Mm y, std::span<const Raya> rayas);
 void DibujarRotulos(Impresora& p, Mm x, Mm y, const GrupoRotulos& grupo);
-/// Numbers (bold, size 8), captions and frames of the boxes.
-void DibujarCasillas(Impresora& p, Mm x, Mm y, std::span<const Casilla> casillas);
-/// The values of the boxes, bold, size 8.
+/// Numbers (bold), captions and frames of the boxes.
+void DibujarCasillas(Impresora& p, Mm x, Mm y, std::span<const Casilla> casillas,
+                     float cuerpoNumeros = 8);
+/// The values of the boxes, bold.
 void RellenarCasillas(const Hoja& hoja, Mm x, Mm y, std::span<const Casilla> casillas);
 
 /// Sets size and weight.
@@ -97,5 +104,9 @@ void PonerLetra(Impresora& p, float cuerpo, bool negrita);
 Valor Marca(bool condicion);
 /// A text property: written as it is, empty or not.
 inline Valor Texto(const QString& texto) { return texto; }
+/// A numeric property: plain digits, nothing for 0.
+Valor NumeroSiHay(qint32 numero);
+/// A date property in the order of the language, nothing for 0.
+Valor FechaSiHay(const Hoja& hoja, qint32 fecha);
 
 }  // namespace padral

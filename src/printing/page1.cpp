@@ -9,11 +9,6 @@ namespace {
 constexpr Mm YCabecera = 4;
 constexpr Mm PasoBloque = 5;
 
-void MarcoGrueso(Impresora& p, Mm x, Mm y1, Mm y2) {
-    p.estado.pluma = PlumaGruesa;
-    DibujarMarco(p, x, y1, x + AnchoImpreso, y2);
-}
-
 void DibujarCabeceraHoja1(const Hoja& hoja, Mm x, Mm y) {
     DibujarCabeceraComun(hoja, x, y);
     DibujarRotulos(hoja.impresora, x, y, {24, true, hoja1::tituloEuskera});
@@ -73,14 +68,6 @@ void RellenarObligado(const Hoja& hoja, Mm x, Mm y) {
     RellenarCasillas(hoja, x, y, hoja1::casillasObligado);
 }
 
-/// A block of the page: its origin below the running Y, and its frame from its origin.
-struct Bloque {
-    Mm origen;
-    Mm arriba, abajo;
-    void (*dibujar)(const Hoja&, Mm x, Mm y);
-    void (*rellenar)(const Hoja&, Mm x, Mm y);
-};
-
 // The origin of the change block lies 30 mm above its frame.
 constexpr Bloque bloques[] = {
     {0, 0, 12, DibujarIdentificacion, RellenarIdentificacion},
@@ -99,10 +86,7 @@ void ImprimirPaginasPrincipales(const Hoja& hoja, Mm& x, Mm& y, const QString& i
     DibujarCabeceraHoja1(hoja, x, YCabecera);
     for (const Bloque& b : bloques) {
         y += PasoBloque;
-        const Mm origen = y + b.origen;
-        MarcoGrueso(p, x, origen + b.arriba, origen + b.abajo);
-        b.dibujar(hoja, x, origen);
-        b.rellenar(hoja, x, origen);
+        ImprimirBloque(hoja, x, y, b);
     }
     EstamparCopia(p, imagen);
     p.FinPagina();

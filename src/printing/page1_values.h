@@ -9,10 +9,6 @@ namespace padral::hoja1 {
 
 inline const cDatosGenerales& Datos(const Hoja& h) { return h.registros.generales; }
 
-inline Valor FechaSiHay(const Hoja& h, qint32 fecha) {
-    return fecha == 0 ? std::nullopt : Valor(h.estado.fecha.LongToString(fecha));
-}
-
 template <char16_t letra>
 Valor SiCausa1(const Hoja& h) {
     return Marca(Datos(h).Causa1 == QChar(letra));

@@ -17,7 +17,7 @@ bool Igual(const Operacion& o, const TextoEsperado& t) {
     const EstadoDibujo& e = o.estado;
     return o.tipo == Operacion::Texto && o.texto == t.texto && Cerca(o.desde, t.x, t.y) &&
            Cerca(e.cuerpo, t.cuerpo) && e.negrita == t.negrita && e.cursiva == t.cursiva &&
-           !e.subrayado && e.fuente == t.fuente && e.primerPlano == 0x000000 && o.pagina == 1;
+           !e.subrayado && e.fuente == t.fuente && e.primerPlano == 0x000000;
 }
 
 std::string Describir(const Operacion& o) {
@@ -37,10 +37,15 @@ std::string Describir(const Operacion& o) {
 
 bool MismoTrazo(const Operacion& o, Operacion::Tipo tipo, float origen, const FilaTrazo& f) {
     return o.tipo == tipo && Cerca(o.desde, X + f.x1, origen + f.y1) &&
-           Cerca(o.hasta, X + f.x2, origen + f.y2) && o.color == 0x000000 && o.pagina == 1;
+           Cerca(o.hasta, X + f.x2, origen + f.y2);
 }
 
 }  // namespace
+
+Trazado::Trazado(const Documento& documento, int pagina) {
+    for (const auto& o : documento.operaciones)
+        if (o.pagina == pagina) quedan_.push_back(o);
+}
 
 template <class Prueba>
 bool Trazado::quitar(Prueba prueba) {
@@ -61,15 +66,23 @@ void Trazado::Espera(const TextoEsperado& t) {
 void Trazado::EsperaCaja(float origen, const FilaTrazo& f, int pluma) {
     EXPECT_TRUE(quitar([&](const Operacion& o) {
         return MismoTrazo(o, Operacion::Caja, origen, f) && o.estado.pluma == pluma &&
-               o.estado.relleno == 0xFFFFFF;
+               o.estado.relleno == 0xFFFFFF && o.color == 0x000000;
     })) << "missing frame "
         << f.x1 << ", " << f.y1 << " to " << f.x2 << ", " << f.y2 << " from " << origen;
 }
 
 void Trazado::EsperaLinea(float origen, const FilaTrazo& f) {
     EXPECT_TRUE(quitar([&](const Operacion& o) {
-        return MismoTrazo(o, Operacion::Linea, origen, f) && o.estado.pluma == 2;
+        return MismoTrazo(o, Operacion::Linea, origen, f) && o.estado.pluma == 2 &&
+               o.color == 0x000000;
     })) << "missing line "
+        << f.x1 << ", " << f.y1 << " to " << f.x2 << ", " << f.y2 << " from " << origen;
+}
+
+void Trazado::EsperaGris(float origen, const FilaTrazo& f) {
+    EXPECT_TRUE(quitar([&](const Operacion& o) {
+        return MismoTrazo(o, Operacion::CajaRellena, origen, f) && o.color == 0xE0E0E0;
+    })) << "missing grey box "
         << f.x1 << ", " << f.y1 << " to " << f.x2 << ", " << f.y2 << " from " << origen;
 }
 
@@ -93,11 +106,18 @@ void Trazado::QuitaTextosVacios() {
     }
 }
 
-std::vector<TextoEsperado> Textos(float origen, const FilaNumero& f) {
+QStringList TextosDePagina(const Documento& documento, int pagina) {
+    QStringList textos;
+    for (const auto& o : documento.De(Operacion::Texto))
+        if (o.pagina == pagina) textos << o.texto;
+    return textos;
+}
+
+std::vector<TextoEsperado> Textos(float origen, const FilaNumero& f, float cuerpo) {
     const QString texto = Cadena(f.numero);
-    const float ancho = 0.22F * 8 * static_cast<float>(texto.size());
-    if (f.derecha) return {{texto, X + f.x - ancho, origen + f.y, 8, true, false, estrecha}};
-    return {{texto, X + f.x, Arriba(origen + f.y, 8), 8, true, false, estrecha}};
+    const float ancho = 0.22F * cuerpo * static_cast<float>(texto.size());
+    if (f.derecha) return {{texto, X + f.x - ancho, origen + f.y, cuerpo, true, false, estrecha}};
+    return {{texto, X + f.x, Arriba(origen + f.y, cuerpo), cuerpo, true, false, estrecha}};
 }
 
 std::vector<TextoEsperado> Textos(float origen, const FilaTexto& f) {

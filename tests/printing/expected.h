@@ -45,14 +45,15 @@ struct TextoEsperado {
     QString fuente;
 };
 
-/// What was drawn and not yet claimed by a row.
+/// What was drawn on one page and not yet claimed by a row.
 class Trazado {
 public:
-    explicit Trazado(const Documento& documento) : quedan_(documento.operaciones) {}
+    explicit Trazado(const Documento& documento, int pagina = 1);
 
     void Espera(const TextoEsperado& t);
     void EsperaCaja(float origen, const FilaTrazo& f, int pluma);
     void EsperaLinea(float origen, const FilaTrazo& f);
+    void EsperaGris(float origen, const FilaTrazo& f);
     void EsperaImagen(const QString& nombre, float x, float y, std::optional<Tamano> tamano = {});
     /// Nothing was drawn that no row told.
     void EsperaNadaMas() const;
@@ -65,9 +66,12 @@ private:
     std::vector<Operacion> quedan_;
 };
 
+/// Texts of one page in their order.
+QStringList TextosDePagina(const Documento& documento, int pagina);
+
 /// Texts that a row stands for. Positions follow from the fixed metric: a text at a point begins
 /// 0.35 of its height (0.4 mm a point) above it.
-std::vector<TextoEsperado> Textos(float origen, const FilaNumero& fila);
+std::vector<TextoEsperado> Textos(float origen, const FilaNumero& fila, float cuerpo = 8);
 std::vector<TextoEsperado> Textos(float origen, const FilaTexto& fila);
 std::vector<TextoEsperado> Textos(float origen, const FilaPar& fila);
 /// A value in bold "Arial Narrow".

@@ -70,6 +70,52 @@ TEST(ImprimirDeclaracion, LasCopiasSoloSeDistinguenEnElTitulo) {
     }
 }
 
+struct FilaSecciones {
+    const char16_t *apartado2, *apartado3;
+    int paginas;
+};
+const FilaSecciones secciones[] = {
+    {u"", u"", 1},  {u" ", u" ", 1}, {u"x", u"S", 1}, {u"XX", u" X", 1},
+    {u"X", u"", 2}, {u"X", u" ", 2}, {u" ", u"X", 2}, {u"X", u"X", 2},
+};
+
+TEST(ImprimirDeclaracion, LaHoja2ConElApartado2OEl3) {
+    for (const auto& fila : secciones) {
+        Impresion impresion;
+        impresion.datos.Apartado2 = QString::fromUtf16(fila.apartado2);
+        impresion.datos.Apartado3 = QString::fromUtf16(fila.apartado3);
+        EXPECT_EQ(impresion.Copia().paginasTerminadas, fila.paginas);
+    }
+}
+
+/// Titles of the sections, and stamps, with the page on which they stand.
+QStringList Recorrido(const Documento& documento) {
+    QStringList recorrido;
+    for (const auto& o : documento.operaciones) {
+        const bool sello = o.tipo == Operacion::Imagen && o.desde.x > 190;
+        const bool titulo = o.tipo == Operacion::Texto && o.texto.contains(u"ATALA: ");
+        if (sello || titulo) recorrido << QStringLiteral("%1 %2").arg(o.pagina).arg(o.texto);
+    }
+    return recorrido;
+}
+
+TEST(ImprimirDeclaracion, LasHojasVanEnSuOrdenEnCadaCopia) {
+    Impresion impresion;
+    impresion.datos.Apartado3 = QStringLiteral("X");
+    for (const auto& [tipo, sello] :
+         {std::pair(u"AD", u"Administracion"), std::pair(u"IT", u"Interesado"),
+          std::pair(u"BO", u"Borrador")}) {
+        const QString nombre = QString::fromUtf16(sello);
+        const QStringList esperado = {
+            QStringLiteral("1 1.ATALA: AURKEZPENAREN ARRAZOIA"), QStringLiteral("1 ") + nombre,
+            QStringLiteral("2 2. ATALA: KOKALEKUA"),
+            QStringLiteral("2 3.ATALA: PADRALKO BESTELAKO DATUAK"), QStringLiteral("2 ") + nombre};
+        const Documento& documento = impresion.Copia(QString::fromUtf16(tipo));
+        EXPECT_EQ(Recorrido(documento), esperado);
+        EXPECT_TRUE(documento.cerrado);
+    }
+}
+
 TEST(ImprimirDeclaracion, UnaCopiaDesconocidaFallaAlEstampar) {
     for (const auto* tipo : {u"", u"XX", u"ad"}) {
         Impresion impresion;
@@ -114,6 +160,19 @@ TEST(ImprimirDeclaracion, NoCambiaLosDatos) {
     const Fila antes = impresion.datos.ObtenerDatos();
     impresion.Copia();
     EXPECT_EQ(impresion.datos.ObtenerDatos(), antes);
+}
+
+TEST(ImprimirDeclaracion, NoCambiaLosApartados2Y3) {
+    Impresion impresion;
+    impresion.datos.Apartado2 = QStringLiteral("X");
+    impresion.apartado2.Soc.NombreDomicilio = QStringLiteral("Mayor");
+    impresion.apartado2.ElMismoSoc = QStringLiteral("X");
+    impresion.apartado3.ActivEcon = QStringLiteral("9999999");
+    const DatosApartado2 antes2 = impresion.apartado2;
+    const DatosApartado3 antes3 = impresion.apartado3;
+    impresion.Copia();
+    EXPECT_EQ(impresion.apartado2, antes2);
+    EXPECT_EQ(impresion.apartado3, antes3);
 }
 
 }  // namespace

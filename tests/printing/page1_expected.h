@@ -1,34 +1,9 @@
 #pragma once
 // The empty first page of the form in rows, block by block.
 
-#include "expected.h"
+#include "furniture_expected.h"
 
 namespace padral::test {
-
-struct BloqueEsperado {
-    const char* nombre;
-    float origen;
-    FilaTrazo marcoGrueso;
-    std::vector<FilaTrazo> rayas;
-    std::vector<FilaNumero> numeros;
-    std::vector<FilaTrazo> marcos;
-    std::vector<FilaTexto> textos;
-    std::vector<FilaPar> pares;
-};
-
-inline BloqueEsperado IdentificacionEsperada() {
-    return {"identification",
-            43.5F,
-            {0, 0, 193, 12},
-            {{0, 4, 193, 4}, {0, 12, 193, 12}, {39, 4, 39, 12}},
-            {{u"1", 2, 5.5F}, {u"2", 42, 5.5F}},
-            {},
-            {},
-            {{0, 0.5F, 193, 8, true, u"IDENTIFIKAZIO DATUAK", u"DATOS IDENTIFICATIVOS"},
-             {5.5F, 5.5F, 0, 8, false, u"IFZ", u"N.I.F."},
-             {45, 5.5F, 0, 8, false, u"Deiturak eta izena, edo sozietatearen izena",
-              u"Apellidos y Nombre, o Razón Social"}}};
-}
 
 inline BloqueEsperado Apartado1Esperado() {
     return {"section 1",

@@ -18,7 +18,7 @@ constexpr float YObligado = 187.5F;
 
 /// Places (offsets from the block) of the marks "X" on the page.
 int Marcas(const Documento& documento) {
-    return static_cast<int>(documento.Textos().count(QStringLiteral("X")));
+    return static_cast<int>(TextosDePagina(documento, 1).count(QStringLiteral("X")));
 }
 
 bool Escribe(const Documento& documento, const QString& texto) {
@@ -117,7 +117,7 @@ TEST(Hoja1, CadaTextoEnSuCasilla) {
             const Documento& documento = impresion.Copia();
             Trazado(documento).Espera(
                 ValorEsperado(fila.origen, fila.x, fila.y, valor, fila.cuerpo));
-            EXPECT_EQ(documento.Textos().count(valor), 1);
+            EXPECT_EQ(TextosDePagina(documento, 1).count(valor), 1);
         }
 }
 

@@ -4,6 +4,8 @@
 #include "core/shared_state.h"
 #include "declaration/general_data.h"
 #include "printing/job.h"
+#include "sections/location/section2.h"
+#include "sections/location/section3.h"
 #include "support/recorders.h"
 #include "support/recording_printer.h"
 
@@ -15,7 +17,9 @@ struct Impresion {
     EstadoCompartido estado{avisos, reloj};
     EstadoDeclaracion declaracion;
     cDatosGenerales datos{declaracion};
-    RegistrosImpresos registros{datos};
+    DatosApartado2 apartado2;
+    DatosApartado3 apartado3;
+    RegistrosImpresos registros{datos, apartado2, apartado3};
     FabricaRegistro fabrica;
     Imprimir modulo{estado, registros, fabrica};
 

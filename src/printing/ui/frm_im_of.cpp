@@ -142,7 +142,8 @@ void FrmImOf::Aceptar() {
         estado_.Avisar(702, 703);
         return;
     }
-    Imprimir modulo(estado_, {declaracion_.general}, destino_);
+    Imprimir modulo(estado_, {declaracion_.general, declaracion_.apartado2, declaracion_.apartado3},
+                    destino_);
     for (const QString& copia : CopiasPedidas(opciones())) modulo.ImprimirDeclaracion(copia);
     avisarFicheros();
     accept();

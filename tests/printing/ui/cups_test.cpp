@@ -17,6 +17,8 @@
 #include "printing/job.h"
 #include "printing/primitives.h"
 #include "printing/ui/printer_factory.h"
+#include "sections/location/section2.h"
+#include "sections/location/section3.h"
 #include "support/recorders.h"
 
 namespace padral::test {
@@ -30,6 +32,8 @@ protected:
     EstadoCompartido estado{avisos, reloj};
     EstadoDeclaracion declaracion;
     cDatosGenerales datos{declaracion};
+    DatosApartado2 apartado2;
+    DatosApartado3 apartado3;
     FabricaQt fabrica{reloj};
 
     void SetUp() override {
@@ -39,7 +43,7 @@ protected:
         datos.NOMBRE = QStringLiteral("ETXEBERRIA, MIREN");
     }
     void Imprime(const QString& copia) {
-        Imprimir(estado, {datos}, fabrica).ImprimirDeclaracion(copia);
+        Imprimir(estado, {datos, apartado2, apartado3}, fabrica).ImprimirDeclaracion(copia);
     }
 };
 

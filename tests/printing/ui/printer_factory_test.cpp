@@ -17,6 +17,8 @@
 #include "pdf_reader.h"
 #include "platform/failure.h"
 #include "printing/job.h"
+#include "sections/location/section2.h"
+#include "sections/location/section3.h"
 #include "support/recorders.h"
 
 namespace padral::test {
@@ -30,6 +32,8 @@ protected:
     EstadoCompartido estado{avisos, reloj};
     EstadoDeclaracion declaracion;
     cDatosGenerales datos{declaracion};
+    DatosApartado2 apartado2;
+    DatosApartado3 apartado3;
     FabricaQt fabrica{reloj};
 
     void SetUp() override {
@@ -42,7 +46,7 @@ protected:
         datos.NOMBRE = QStringLiteral("MUÑOZ ETXEBERRIA, MIREN");
     }
     void Imprime(const QString& copia) {
-        Imprimir(estado, {datos}, fabrica).ImprimirDeclaracion(copia);
+        Imprimir(estado, {datos, apartado2, apartado3}, fabrica).ImprimirDeclaracion(copia);
     }
     QString EnDocumentos(const QString& nombre) const {
         return casa.filePath(QStringLiteral("Documents/") + nombre);
