@@ -63,12 +63,12 @@ constexpr std::array<CasillaTipo, 4> Tipos = {{
 }};
 
 constexpr std::array<CasillaSolicitud, 6> Solicitudes = {{
-    {u"chkPorComienzo", 586, u'A', u"CM", 448},
-    {u"chkModificacionFormaJuridica", 587, u'B', u"PIC", 450},
+    {u"chkPorComienzo", 396, u'A', u"CM", 448},
+    {u"chkModificacionFormaJuridica", 403, u'B', u"PIC", 450},
     {u"chkAnulacionPorCese", 402, u'C', u"PIM", 451},
-    {u"chkPorExtravio", 588, u'D', u"", 0},
-    {u"chkPorDefinitivo", 589, u'E', u"", 0},
-    {u"chkPorOtrasCausas", 590, u'F', u"", 0},
+    {u"chkPorExtravio", 399, u'D', u"", 0},
+    {u"chkPorDefinitivo", 398, u'E', u"", 0},
+    {u"chkPorOtrasCausas", 397, u'F', u"", 0},
 }};
 
 constexpr int PreguntaAntes = 655;

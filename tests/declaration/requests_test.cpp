@@ -15,12 +15,12 @@ struct FilaSolicitud {
     int mensaje;
 };
 constexpr FilaSolicitud Filas[] = {
-    {u"chkPorComienzo", 586, u'A', {0, 0, 0, 1, 1}, 448},
-    {u"chkModificacionFormaJuridica", 587, u'B', {0, 1, 1, 0, 1}, 450},
+    {u"chkPorComienzo", 396, u'A', {0, 0, 0, 1, 1}, 448},
+    {u"chkModificacionFormaJuridica", 403, u'B', {0, 1, 1, 0, 1}, 450},
     {u"chkAnulacionPorCese", 402, u'C', {0, 1, 1, 1, 0}, 451},
-    {u"chkPorExtravio", 588, u'D', {0, 0, 0, 0, 0}, 0},
-    {u"chkPorDefinitivo", 589, u'E', {0, 0, 0, 0, 0}, 0},
-    {u"chkPorOtrasCausas", 590, u'F', {0, 0, 0, 0, 0}, 0},
+    {u"chkPorExtravio", 399, u'D', {0, 0, 0, 0, 0}, 0},
+    {u"chkPorDefinitivo", 398, u'E', {0, 0, 0, 0, 0}, 0},
+    {u"chkPorOtrasCausas", 397, u'F', {0, 0, 0, 0, 0}, 0},
 };
 
 TEST(Solicitudes, SeisCasillasConLosTiposQueLasRechazan) {
