@@ -14,25 +14,27 @@ constexpr mode_t ParaTodos = 0666;
 
 // Another user's object is opened without the wish to create it: systems refuse that wish for
 // foreign files in shared folders, even where everybody may write.
-int abrir() {
-    const int existente = shm_open(Nombre, O_RDWR, 0);
+int abrir(const char* nombre) {
+    const int existente = shm_open(nombre, O_RDWR, 0);
     if (existente >= 0) return existente;
-    const int nuevo = shm_open(Nombre, O_RDWR | O_CREAT, ParaTodos);
+    const int nuevo = shm_open(nombre, O_RDWR | O_CREAT, ParaTodos);
     if (nuevo >= 0) fchmod(nuevo, ParaTodos);  // whatever the user's mask is
     return nuevo;
 }
 
-int abrirYMarcar() {
-    const int descriptor = abrir();
+int abrirYMarcar(const char* nombre) {
+    const int descriptor = abrir(nombre);
     if (descriptor >= 0) flock(descriptor, LOCK_SH | LOCK_NB);
     return descriptor;
 }
 
 }  // namespace
 
-void MarcarInstancia() {
+void MarcarInstancia() { MarcarInstancia(Nombre); }
+
+void MarcarInstancia(const char* nombre) {
     // Never closed: the lock ends with the process.
-    static const int descriptor = abrirYMarcar();
+    static const int descriptor = abrirYMarcar(nombre);
     static_cast<void>(descriptor);
 }
 

@@ -7,6 +7,8 @@ namespace padral {
 /// holds a shared lock on it, so a tool that gets an exclusive lock knows that none runs. Nothing
 /// is examined and nothing fails: a second copy starts as well.
 void MarcarInstancia();
+/// The same with an object of another name, which begins with "/". For the first call only.
+void MarcarInstancia(const char* nombre);
 
 /// Name of the object as this system shows it.
 const char* NombreMarcaInstancia();

@@ -8,12 +8,25 @@
 #include <sys/wait.h>
 #include <unistd.h>
 
+#include <string>
+
 namespace padral {
 namespace {
 
+// An object of this test alone: copies of the program may run beside it.
+const char* mark() {
+    static const std::string name = "/padral_test_" + std::to_string(getpid());
+    return name.c_str();
+}
+
+struct InstanceMark : ::testing::Test {
+    InstanceMark() { mark(); }
+    ~InstanceMark() override { shm_unlink(mark()); }
+};
+
 // What an outside tool does: it knows that no copy runs when it gets the lock for itself alone.
 bool toolGetsLock() {
-    const int descriptor = shm_open(NombreMarcaInstancia(), O_RDWR, 0);
+    const int descriptor = shm_open(mark(), O_RDWR, 0);
     if (descriptor < 0) return true;
     const bool got = flock(descriptor, LOCK_EX | LOCK_NB) == 0;
     close(descriptor);
@@ -30,23 +43,23 @@ int inProcess(Check check) {
     return WIFEXITED(status) ? WEXITSTATUS(status) : -1;
 }
 
-TEST(InstanceMark, HasTheNameThatToolsLookFor) {
+TEST_F(InstanceMark, HasTheNameThatToolsLookFor) {
     EXPECT_STREQ(NombreMarcaInstancia(), "/ZZTT_Padral");
 }
 
-TEST(InstanceMark, IsHeldAsLongAsTheProcessRuns) {
+TEST_F(InstanceMark, IsHeldAsLongAsTheProcessRuns) {
     EXPECT_EQ(inProcess([] {
-                  MarcarInstancia();
+                  MarcarInstancia(mark());
                   return toolGetsLock() ? 1 : 0;
               }),
               0);
 }
 
-TEST(InstanceMark, IsSharedByASecondCopy) {
+TEST_F(InstanceMark, IsSharedByASecondCopy) {
     EXPECT_EQ(inProcess([] {
-                  MarcarInstancia();
+                  MarcarInstancia(mark());
                   const int second = inProcess([] {
-                      MarcarInstancia();
+                      MarcarInstancia(mark());
                       return toolGetsLock() ? 1 : 0;
                   });
                   return second != 0 || toolGetsLock() ? 1 : 0;
@@ -54,13 +67,12 @@ TEST(InstanceMark, IsSharedByASecondCopy) {
               0);
 }
 
-TEST(InstanceMark, IsOpenToEveryUser) {
+TEST_F(InstanceMark, IsOpenToEveryUser) {
     EXPECT_EQ(inProcess([] {
-                  shm_unlink(NombreMarcaInstancia());
                   umask(077);
-                  MarcarInstancia();
+                  MarcarInstancia(mark());
                   struct stat state {};
-                  const int descriptor = shm_open(NombreMarcaInstancia(), O_RDONLY, 0);
+                  const int descriptor = shm_open(mark(), O_RDONLY, 0);
                   fstat(descriptor, &state);
                   return (state.st_mode & 0777) == 0666 ? 0 : 1;
               }),
