@@ -1,5 +1,5 @@
 // The pages themselves: both languages whole, every link leads to a page, every page is in the
-// contents, every form has its page.
+// contents, every form has its page, and what they quote from the screens is what the screens say.
 
 #include <gtest/gtest.h>
 
@@ -8,14 +8,16 @@
 #include <QMap>
 #include <QRegularExpression>
 #include <QTextBlock>
+#include <QTextBrowser>
 #include <QTextDocument>
+#include <QTextLayout>
+#include <algorithm>
 
 #include "core/help/help_contents.h"
 #include "core/help/help_topics.h"
+#include "page_texts.h"
 
-using padral::LeerContenido;
-using padral::TemasAyuda;
-
+namespace padral::pruebas {
 namespace {
 
 const QDir Paginas(QStringLiteral(PADRAL_SOURCE_DIR "/data/help"));
@@ -35,6 +37,18 @@ QStringList enlaces(const QString& html) {
     QStringList destinos;
     for (auto cada = enlace.globalMatch(html); cada.hasNext();) destinos << cada.next().captured(1);
     return destinos;
+}
+
+/// The first word of a laid out paragraph that goes on in the next line; empty when none does.
+QString palabraPartida(const QTextBlock& bloque) {
+    const QString texto = bloque.text();
+    for (int i = 0; i + 1 < bloque.layout()->lineCount(); ++i) {
+        const QTextLine linea = bloque.layout()->lineAt(i);
+        const int corte = linea.textStart() + linea.textLength();
+        if (texto[corte - 1].isLetterOrNumber() && texto[corte].isLetterOrNumber())
+            return texto.left(corte) + u'|' + texto.mid(corte);
+    }
+    return {};
 }
 
 struct Idioma {
@@ -98,6 +112,86 @@ TEST_P(PaginasDeAyuda, CadaFormularioTieneLaSuya) {
     }
 }
 
+TEST_P(PaginasDeAyuda, LosRotulosEnNegritaSonDeLasPantallas) {
+    QSet<QString> conocidos = TextosAjenos(GetParam().carpeta);
+    for (const QString& texto : TextosDelCatalogo(GetParam().carpeta))
+        conocidos << ComoSeLee(texto);
+    int vistos = 0;
+    for (const QString& nombre : nombres(GetParam().carpeta))
+        for (const QString& rotulo : Rotulos(leer(GetParam().carpeta, nombre))) {
+            EXPECT_TRUE(conocidos.contains(ComoSeLee(rotulo)))
+                << nombre.toStdString() << ": " << rotulo.toStdString();
+            ++vistos;
+        }
+    EXPECT_GT(vistos, 200);
+}
+
+// A row that no page needs any more, or that came to be a catalogue text, goes.
+TEST_P(PaginasDeAyuda, LosTextosAjenosHacenFalta) {
+    QSet<QString> rotulos, catalogo;
+    for (const QString& nombre : nombres(GetParam().carpeta))
+        for (const QString& rotulo : Rotulos(leer(GetParam().carpeta, nombre))) rotulos << rotulo;
+    for (const QString& texto : TextosDelCatalogo(GetParam().carpeta)) catalogo << ComoSeLee(texto);
+    for (const QString& ajeno : TextosAjenos(GetParam().carpeta)) {
+        EXPECT_TRUE(rotulos.contains(ajeno)) << ajeno.toStdString();
+        EXPECT_FALSE(catalogo.contains(ajeno)) << ajeno.toStdString();
+    }
+}
+
+TEST_P(PaginasDeAyuda, LosMensajesCitadosSonDelCatalogo) {
+    QStringList textos;
+    for (const QString& texto : TextosDelCatalogo(GetParam().carpeta)) textos << ComoSeLee(texto);
+    int vistas = 0;
+    for (const QString& nombre : nombres(GetParam().carpeta))
+        for (QString cita : Citas(leer(GetParam().carpeta, nombre))) {
+            const QString entera = ComoSeLee(cita);
+            // A quote may leave out the end of its text.
+            if (cita.endsWith(QStringLiteral("..."))) cita.chop(3);
+            const auto es = [&](const QString& texto) {
+                return texto == entera || (!cita.isEmpty() && EsComienzo(ComoSeLee(cita), texto));
+            };
+            EXPECT_TRUE(std::any_of(textos.cbegin(), textos.cend(), es))
+                << nombre.toStdString() << ": " << entera.toStdString();
+            ++vistas;
+        }
+    EXPECT_GT(vistas, 90);
+}
+
+TEST_P(PaginasDeAyuda, LasTeclasSonLasDeSusRotulos) {
+    const QStringList textos = TextosDelCatalogo(GetParam().carpeta);
+    int vistas = 0;
+    for (const QString& nombre : nombres(GetParam().carpeta)) {
+        const QString html = leer(GetParam().carpeta, nombre);
+        const auto teclas = TeclasNombradas(html);
+        EXPECT_EQ(teclas.size(), html.count(QStringLiteral("Alt+"))) << nombre.toStdString();
+        vistas += static_cast<int>(teclas.size());
+        for (const auto& tecla : teclas) {
+            const auto suya = [&](const QString& texto) {
+                return ComoSeLee(texto) == tecla.rotulo &&
+                       texto.contains(u'&' + tecla.letra, Qt::CaseInsensitive);
+            };
+            EXPECT_TRUE(std::any_of(textos.cbegin(), textos.cend(), suya))
+                << nombre.toStdString() << ": Alt+" << tecla.letra.toStdString() << ' '
+                << tecla.rotulo.toStdString();
+        }
+    }
+    EXPECT_GT(vistas, 30);
+}
+
+// A table whose columns are too narrow breaks its words.
+TEST_P(PaginasDeAyuda, NingunaPalabraSeParteEnUnaVentanaEstrecha) {
+    constexpr int Ancho = 500;
+    for (const QString& nombre : nombres(GetParam().carpeta)) {
+        QTextBrowser navegador;
+        navegador.setVerticalScrollBarPolicy(Qt::ScrollBarAlwaysOn);
+        navegador.resize(Ancho, Ancho);
+        navegador.setHtml(leer(GetParam().carpeta, nombre));
+        navegador.document()->setTextWidth(navegador.viewport()->width());
+        for (auto bloque = navegador.document()->begin(); bloque.isValid(); bloque = bloque.next())
+            EXPECT_EQ(palabraPartida(bloque).toStdString(), "") << nombre.toStdString();
+    }
+}
+
 INSTANTIATE_TEST_SUITE_P(
     Idiomas, PaginasDeAyuda,
     ::testing::Values(Idioma{QStringLiteral("es"), QStringLiteral("indice.htm")},
@@ -119,3 +213,4 @@ TEST(PaginasDeAyudaIdiomas, LosContenidosVanALaPar) {
 }
 
 }  // namespace
+}  // namespace padral::pruebas

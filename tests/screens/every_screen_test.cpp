@@ -2,8 +2,11 @@
 // caption cut off, no access key used twice, no text of the other language.
 
 #include <QApplication>
+#include <QLineEdit>
+#include <QListWidget>
 #include <QPushButton>
 #include <QTabBar>
+#include <QTest>
 
 #include "online/frm_inicio.h"
 #include "program/window_fixture.h"
@@ -124,9 +127,24 @@ protected:
     }
     void recorrerAyuda() {
         guia().Ordenar(QStringLiteral("mnucontenido"));
-        const auto* ayuda = ventana().findChild<QWidget*>(QStringLiteral("frmAyuda"));
+        auto* ayuda = ventana().findChild<QWidget*>(QStringLiteral("frmAyuda"));
         ASSERT_NE(ayuda, nullptr);
-        mirar(*ayuda, QStringLiteral("frmAyuda"));
+        mirar(*ayuda, QStringLiteral("frmAyuda"), "contents");
+        QTest::keyClick(ayuda, Qt::Key_F, Qt::ControlModifier);
+        mirar(*ayuda, QStringLiteral("frmAyuda"), "search");
+        EXPECT_GT(buscarEnAyuda(*ayuda, u"F1", "pages found"), 1);
+        EXPECT_EQ(buscarEnAyuda(*ayuda, u"xyzxyz", "no page found"), 0);
+    }
+    /// Looks at the search of the help with its answer to a word; the number of pages found.
+    int buscarEnAyuda(QWidget& ayuda, const char16_t* palabra, const char* momento) {
+        auto* campo = ayuda.findChild<QLineEdit*>(QStringLiteral("txtBuscar"));
+        const auto* lista = ayuda.findChild<QListWidget*>(QStringLiteral("lstResultado"));
+        if (!campo || !campo->isVisible() || !lista) return -1;
+        campo->setText(QString::fromUtf16(palabra));
+        QTest::keyClick(campo, Qt::Key_Return);
+        guia().Respirar();
+        mirar(ayuda, QStringLiteral("frmAyuda"), momento);
+        return lista->count();
     }
 
     QFont fuente_;

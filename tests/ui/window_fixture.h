@@ -37,7 +37,7 @@ inline void Teclear(QWidget* w, Qt::Key tecla, Qt::KeyboardModifiers con = {}) {
     QTest::keyClick(w->window()->windowHandle(), tecla, con);
 }
 
-/// Types a text; unlike the toolkit's own helper it takes any character.
+/// Types a text; unlike the toolkit's own function it takes any character.
 inline void Escribir(QWidget* w, const QString& texto) {
     for (const QChar c : texto)
         QTest::sendKeyEvent(QTest::Click, w, static_cast<Qt::Key>(c.toUpper().unicode()), c,

@@ -11,6 +11,7 @@
 
 #include "core/help/contents_tree.h"
 #include "core/help/help_browser.h"
+#include "core/help/help_texts.h"
 #include "core/help/search_panel.h"
 
 namespace padral {
@@ -108,25 +109,16 @@ void VentanaAyuda::irABuscar() {
 
 void VentanaAyuda::Poner(const EstadoCompartido& estado) {
     setWindowTitle(estado.Texto(633));
-    navegador_->setAccessibleName(
-        estado.SegunIdioma(QStringLiteral("Página de ayuda"), QStringLiteral("Laguntza-orria")));
-    const QString inicio = estado.SegunIdioma(QStringLiteral("Inicio"), QStringLiteral("Hasiera"));
-    rotular(atras_, estado.SegunIdioma(QStringLiteral("Atrás"), QStringLiteral("Atzera")),
-            QStringLiteral("Alt+←"));
-    rotular(adelante_, estado.SegunIdioma(QStringLiteral("Adelante"), QStringLiteral("Aurrera")),
-            QStringLiteral("Alt+→"));
-    rotular(indice_, estado.SegunIdioma(QStringLiteral("Índice"), QStringLiteral("Aurkibidea")),
-            QStringLiteral("Alt+") + inicio);
-    const QString contenido =
-        estado.SegunIdioma(QStringLiteral("&Contenido"), QStringLiteral("&Edukia"));
+    navegador_->setAccessibleName(textos_ayuda::Pagina.En(estado));
+    rotular(atras_, textos_ayuda::Atras.En(estado), textos_ayuda::TeclaAtras.En(estado));
+    rotular(adelante_, textos_ayuda::Adelante.En(estado), textos_ayuda::TeclaAdelante.En(estado));
+    rotular(indice_, textos_ayuda::Indice.En(estado), textos_ayuda::TeclaIndice.En(estado));
+    const QString contenido = textos_ayuda::FichaContenido.En(estado);
     fichas_->setTabText(0, contenido);
-    fichas_->setTabText(1,
-                        estado.SegunIdioma(QStringLiteral("&Buscar"), QStringLiteral("&Bilatu")));
+    fichas_->setTabText(1, textos_ayuda::FichaBuscar.En(estado));
     arbol_->setAccessibleName(QString(contenido).remove(u'&'));
     busqueda_->Poner(estado);
-    navegador_->SinPagina =
-        estado.SegunIdioma(QStringLiteral("No se encuentra la página de ayuda «%1»."),
-                           QStringLiteral("Ez da «%1» laguntza-orria aurkitu."));
+    navegador_->SinPagina = textos_ayuda::PaginaAusente.En(estado);
 }
 
 void VentanaAyuda::Abrir(const QString& carpeta, const QString& tema, const QString& inicio) {

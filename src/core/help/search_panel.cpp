@@ -7,6 +7,7 @@
 #include <QListWidget>
 #include <QPushButton>
 
+#include "core/help/help_texts.h"
 #include "core/help/page_search.h"
 #include "core/help/text_match.h"
 
@@ -48,18 +49,13 @@ PanelBusqueda::PanelBusqueda(QWidget* padre)
 }
 
 void PanelBusqueda::Poner(const EstadoCompartido& estado) {
-    rotulo_->setText(estado.SegunIdioma(QStringLiteral("&Palabras:"), QStringLiteral("&Hitzak:")));
-    boton_->setText(estado.SegunIdioma(QStringLiteral("B&uscar"), QStringLiteral("Bi&latu")));
-    campo_->setAccessibleName(estado.SegunIdioma(QStringLiteral("Palabras que se buscan"),
-                                                 QStringLiteral("Bilatu beharreko hitzak")));
-    lista_->setAccessibleName(estado.SegunIdioma(QStringLiteral("Páginas encontradas"),
-                                                 QStringLiteral("Aurkitutako orriak")));
-    nada_ = estado.SegunIdioma(QStringLiteral("Ninguna página contiene esas palabras."),
-                               QStringLiteral("Ez dago hitz horiek dituen orririk."));
-    una_ = estado.SegunIdioma(QStringLiteral("Una página encontrada."),
-                              QStringLiteral("Orri bat aurkitu da."));
-    varias_ = estado.SegunIdioma(QStringLiteral("%1 páginas encontradas."),
-                                 QStringLiteral("%1 orri aurkitu dira."));
+    rotulo_->setText(textos_ayuda::Palabras.En(estado));
+    boton_->setText(textos_ayuda::Buscar.En(estado));
+    campo_->setAccessibleName(textos_ayuda::PalabrasBuscadas.En(estado));
+    lista_->setAccessibleName(textos_ayuda::PaginasHalladas.En(estado));
+    nada_ = textos_ayuda::NingunaPagina.En(estado);
+    una_ = textos_ayuda::UnaPagina.En(estado);
+    varias_ = textos_ayuda::VariasPaginas.En(estado);
 }
 
 void PanelBusqueda::PonerPaginas(const QString& carpeta, const QList<PaginaContenido>& contenido) {

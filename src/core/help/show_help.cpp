@@ -43,15 +43,12 @@ void MostrarAyuda(const EstadoCompartido& estado, VisorAyuda& visor, const QStri
     if (QFileInfo(fichero).isFile())
         visor.Abrir(direccion, formulario);
     else
-        AvisarAyudaAusente(estado, fichero,
-                           QStringLiteral("No se encuentra el fichero de ayuda «%1»."),
-                           QStringLiteral("Ez da «%1» laguntza-fitxategia aurkitu."));
+        AvisarAyudaAusente(estado, fichero, textos_ayuda::FicheroAusente);
 }
 
 void AvisarAyudaAusente(const EstadoCompartido& estado, const QString& ruta,
-                        const QString& castellano, const QString& euskera) {
-    estado.Avisar(estado.SegunIdioma(castellano, euskera).arg(QDir::toNativeSeparators(ruta)),
-                  estado.Texto(TituloAyuda));
+                        const TextoAyuda& texto) {
+    estado.Avisar(texto.En(estado).arg(QDir::toNativeSeparators(ruta)), estado.Texto(TituloAyuda));
 }
 
 }  // namespace padral

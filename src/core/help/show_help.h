@@ -3,6 +3,7 @@
 
 #include <QString>
 
+#include "core/help/help_texts.h"
 #include "core/help/help_viewer.h"
 #include "core/shared_state.h"
 
@@ -20,8 +21,8 @@ QString TemaAyuda(const QString& direccion);
 /// program folder. Without that file a box says so with its name, and nothing opens.
 void MostrarAyuda(const EstadoCompartido& estado, VisorAyuda& visor, const QString& tema,
                   QWidget* formulario);
-/// Says in a box that a part of the help is not there; %1 of the texts is its path.
+/// Says in a box that a part of the help is not there; %1 of the text is its path.
 void AvisarAyudaAusente(const EstadoCompartido& estado, const QString& ruta,
-                        const QString& castellano, const QString& euskera);
+                        const TextoAyuda& texto);
 
 }  // namespace padral

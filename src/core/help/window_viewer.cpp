@@ -28,9 +28,7 @@ void VisorVentana::Abrir(const QString& direccion, QWidget* formulario) {
     const QFileInfo fichero(FicheroAyuda(direccion));
     const QString carpeta = fichero.path() + u'/' + fichero.completeBaseName();
     if (!QFileInfo(carpeta).isDir()) {
-        AvisarAyudaAusente(estado_, carpeta,
-                           QStringLiteral("No se encuentra la carpeta de ayuda «%1»."),
-                           QStringLiteral("Ez da «%1» laguntza-karpeta aurkitu."));
+        AvisarAyudaAusente(estado_, carpeta, textos_ayuda::CarpetaAusente);
         return;
     }
     auto* ventana = ventanaDe(formulario);
