@@ -244,7 +244,9 @@ void ImprimirDosCopias(benchmark::State& estado) {
     banco.programa.Iniciar();
     auto& d = banco.programa.declaracion();
     datos(d, 1);
-    Imprimir imprimir(banco.programa.estado(), {d.general}, banco.impresora);
+    Imprimir imprimir(banco.programa.estado(),
+                      {d.general, d.apartado2, d.apartado3, d.apartado4, d.apartado5},
+                      banco.impresora);
     for (auto _ : estado)
         for (const QString& copia : CopiasPedidas({})) imprimir.ImprimirDeclaracion(copia);
     banco.impresora.TomarFicheros();

@@ -1,6 +1,8 @@
 #include "core/text_catalogue.h"
 
 #include <QFile>
+#include <algorithm>
+#include <set>
 
 // A resource of a static library is not registered by itself.
 static void registrarRecursos() { Q_INIT_RESOURCE(texts); }
@@ -17,6 +19,18 @@ QByteArray tablaCompilada() {
     return fichero.readAll();
 }
 
+[[noreturn]] void rechazar(const std::string& que, qsizetype linea) {
+    throw std::runtime_error("text catalogue: " + que + std::to_string(linea + 1));
+}
+
+// Number of a text, below those of the other language; 0 when it is none.
+std::size_t numero(const QString& texto) {
+    const bool cifras =
+        std::all_of(texto.cbegin(), texto.cend(), [](QChar c) { return c >= u'0' && c <= u'9'; });
+    const uint leido = cifras ? texto.toUInt() : 0;
+    return leido < CatalogoTextos::DesplazamientoEuskera ? leido : 0;
+}
+
 }  // namespace
 
 TextoAusente::TextoAusente(int id) : std::out_of_range("catalogue text " + std::to_string(id)) {}
@@ -25,19 +39,27 @@ CatalogoTextos::CatalogoTextos() : CatalogoTextos(tablaCompilada()) {}
 
 CatalogoTextos::CatalogoTextos(const QByteArray& tsv) {
     const auto lineas = QString::fromUtf8(tsv).split(u'\n');
+    std::set<std::size_t> vistos;
     for (qsizetype i = 1; i < lineas.size(); ++i) {
-        if (lineas[i].isEmpty()) continue;
-        const auto partes = lineas[i].split(u'\t');
-        const auto id = static_cast<std::size_t>(partes.value(0).toUInt());
-        if (partes.size() != 3 || id == 0)
-            throw std::runtime_error("text catalogue: bad line " + std::to_string(i + 1));
-        for (int idioma = 0; idioma < 2; ++idioma) {
-            auto& tabla = textos_[idioma];
-            if (tabla.size() <= id) tabla.resize(id + 1);
-            if (partes[idioma + 1] == QStringLiteral("\\N")) continue;
-            tabla[id] = {partes[idioma + 1], true};
-            ++cuenta_[idioma];
-        }
+        // Other systems end their lines with two characters.
+        const QString linea = lineas[i].endsWith(u'\r') ? lineas[i].chopped(1) : lineas[i];
+        if (linea.isEmpty()) continue;
+        const auto partes = linea.split(u'\t');
+        const auto id = numero(partes[0]);
+        if (partes.size() != 3 || id == 0) rechazar("bad line ", i);
+        if (!vistos.insert(id).second)
+            rechazar("text " + std::to_string(id) + " again in line ", i);
+        anotar(id, partes);
+    }
+}
+
+void CatalogoTextos::anotar(std::size_t id, const QStringList& partes) {
+    for (int idioma = 0; idioma < 2; ++idioma) {
+        auto& tabla = textos_[idioma];
+        if (tabla.size() <= id) tabla.resize(id + 1);
+        if (partes[idioma + 1] == QStringLiteral("\\N")) continue;
+        tabla[id] = {partes[idioma + 1], true};
+        ++cuenta_[idioma];
     }
 }
 

@@ -2,6 +2,7 @@
 // The bilingual catalogue of numbered texts, compiled in from data/texts.tsv.
 
 #include <QString>
+#include <QStringList>
 #include <stdexcept>
 #include <vector>
 
@@ -21,6 +22,8 @@ public:
     CatalogoTextos();
     /// Reads a table in the form of data/texts.tsv: a header line, then id, Spanish, Basque
     /// separated by tabs; "\N" stands for an entry that does not exist in that language.
+    /// Throws std::runtime_error with the line, counted from 1, for one that is not so and for an
+    /// id that is there already.
     explicit CatalogoTextos(const QByteArray& tsv);
 
     /// The text of a full id (Basque ones with their 10000). Throws TextoAusente.
@@ -36,6 +39,8 @@ private:
         QString texto;
         bool existe = false;
     };
+    void anotar(std::size_t id, const QStringList& partes);
+
     std::vector<Entrada> textos_[2];
     int cuenta_[2] = {0, 0};
 };

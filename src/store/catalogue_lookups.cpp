@@ -1,5 +1,7 @@
 #include "store/catalogue_lookups.h"
 
+#include <algorithm>
+
 #include "store/catalogue_sql.h"
 #include "store/general_server.h"
 
@@ -22,6 +24,18 @@ Resultado consultar(const QString& ruta, Operacion<Resultado> operacion, const Q
     Resultado resultado;
     (servidor.*operacion)(sql, resultado);
     return resultado;
+}
+
+// Of digits alone: a sign or a blank is nothing that a code has.
+bool esNumerica(const QString& clave) {
+    return !clave.isEmpty() && std::all_of(clave.cbegin(), clave.cend(),
+                                           [](QChar c) { return c >= u'0' && c <= u'9'; });
+}
+
+QString sinCerosDelante(const QString& numero) {
+    qsizetype ceros = 0;
+    while (ceros < numero.size() - 1 && numero[ceros] == u'0') ++ceros;
+    return numero.mid(ceros);
 }
 
 }  // namespace
@@ -112,9 +126,7 @@ QStringList ConsultasCatalogo::CausasCese() const {
 }
 
 QString BuscarListItem(const Tabla& lista, const QString& clave) {
-    bool numerica = false;
-    const qlonglong numero = clave.toLongLong(&numerica);
-    const QString buscada = numerica ? u'c' + QString::number(numero) : clave;
+    const QString buscada = esNumerica(clave) ? u'c' + sinCerosDelante(clave) : clave;
     for (int fila = 0; fila < lista.Filas(); ++fila)
         if (lista(0, fila).toString().compare(buscada, Qt::CaseInsensitive) == 0)
             return lista(1, fila).toString();

@@ -53,7 +53,8 @@ private:
 };
 
 /// Text of the first row of a key/text table that matches; "" when none. Case is ignored. A
-/// numeric key is compared as "c" followed by its number with the row's key.
+/// key of digits alone is compared as "c" followed by its number with the row's key, any other as
+/// it stands.
 QString BuscarListItem(const Tabla& lista, const QString& clave);
 /// Index of the first item whose first two characters equal the code in upper case; -1 when none
 /// or the code is empty.

@@ -65,8 +65,8 @@ inline constexpr Consulta FormasJuridicas{
 inline constexpr Consulta MotivosCambio{u"Select MOTIVOCAS From TMotivoCambio ORDER BY CODIGO",
                                         u"Select MOTIVOEUS From TMotivoCambio ORDER BY CODIGO"};
 // Without an order the rows come as they lie in the table, by row number, which is the order in
-// which they were inserted: nothing is ever deleted from the file, and the only index, that of the
-// key, does not hold the texts.
+// which they were inserted: a refresh empties a table before it fills it, so that the row numbers
+// start again, and the only index, that of the key, does not hold the texts.
 inline constexpr Consulta CausasCese{u"Select CAUSACAS From TCausasCese",
                                      u"Select CAUSAEUS From TCausasCese"};
 

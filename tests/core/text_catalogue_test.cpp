@@ -147,10 +147,37 @@ TEST(Catalogo, LaTablaNoRecortaNada) {
     EXPECT_EQ(tabla.CuentaEuskera(), 2);
 }
 
-TEST(Catalogo, UnaLineaMalFormadaSeRechaza) {
-    for (const char* tabla : {"id\tes\teu\n1\ta\n", "id\tes\teu\nx\ta\tb\n",
-                              "id\tes\teu\n0\ta\tb\n", "id\tes\teu\n1\ta\tb\tc\n"})
-        EXPECT_THROW(CatalogoTextos{QByteArray(tabla)}, std::runtime_error) << tabla;
+std::string rechazo(const char* tabla) {
+    try {
+        const CatalogoTextos leida{QByteArray(tabla)};
+        return {};
+    } catch (const std::runtime_error& error) {
+        return error.what();
+    }
+}
+
+TEST(Catalogo, UnaLineaMalFormadaSeRechazaConSuNumero) {
+    for (const char* linea : {"1\ta", "x\ta\tb", "0\ta\tb", "1\ta\tb\tc", "+1\ta\tb", " 1\ta\tb",
+                              "-1\ta\tb", "\ta\tb", "10000\ta\tb", "4294967297\ta\tb"})
+        EXPECT_EQ(rechazo((std::string("id\tes\teu\n7\ta\tb\n") + linea + "\n").c_str()),
+                  "text catalogue: bad line 3")
+            << linea;
+    EXPECT_EQ(rechazo("id\tes\teu\n9999\ta\tb\n"), "");
+}
+
+TEST(Catalogo, UnNumeroRepetidoSeRechazaConSuLinea) {
+    for (const char* tabla :
+         {"id\tes\teu\n1\ta\tb\n2\tc\td\n1\ta\tb\n", "id\tes\teu\n1\t\\N\t\\N\n\n01\ta\tb\n",
+          "id\tes\teu\n1\ta\t\\N\n2\tc\td\n1\t\\N\tb\n"})
+        EXPECT_EQ(rechazo(tabla), "text catalogue: text 1 again in line 4") << tabla;
+}
+
+TEST(Catalogo, LosFinesDeLineaDeOtrosSistemasNoSonTexto) {
+    const CatalogoTextos tabla(QByteArray("id\tes\teu\r\n1\ta\tb\r\n\r\n2\tc\t\\N\r\n3\td\t \r\n"));
+    EXPECT_EQ(tabla.Texto(10001), QStringLiteral("b"));
+    EXPECT_FALSE(tabla.Existe(10002));
+    EXPECT_EQ(tabla.Texto(10003), QStringLiteral(" "));
+    EXPECT_EQ(tabla.CuentaEuskera(), 2);
 }
 
 }  // namespace

@@ -4,11 +4,15 @@ namespace padral::test {
 
 namespace {
 
+constexpr int Territory = 20;
+
 QByteArray provinces() {
     QByteArray text = "T07_PRO_ID,T07_PRO_CAS,T07_PRO_EUS\n";
     for (int i = 1; i <= 52; ++i) {
         const QByteArray number = QByteArray::number(i);
-        text += number + ",Provincia " + number + ",Probintzia " + number + '\n';
+        text += number + (i == Territory ? ",Kelmaria,Kelmaria"
+                                         : ",Provincia " + number + ",Probintzia " + number);
+        text += '\n';
     }
     return text;
 }

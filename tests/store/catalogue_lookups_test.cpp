@@ -203,8 +203,14 @@ TEST_F(Lookups, ListFormsByCodeMotivesByCodeAndCausesAsTheyStand) {
 
 Tabla keyedList() {
     Tabla list;
-    for (const auto& [key, text] :
-         {std::pair{u"C1", u"Álava"}, {u"c20", u"Kelmaria"}, {u"cl", u"Calle"}, {u"CL", u"second"}})
+    for (const auto& [key, text] : {std::pair{u"C1", u"Álava"},
+                                    {u"c20", u"Kelmaria"},
+                                    {u"cl", u"Calle"},
+                                    {u"CL", u"second"},
+                                    {u"-1", u"minus"},
+                                    {u"C-1", u"not a code"},
+                                    {u"C0", u"zero"},
+                                    {u"C99999999999999999999", u"long"}})
         list.Anadir({QStringView(key).toString(), QStringView(text).toString()});
     return list;
 }
@@ -224,7 +230,13 @@ TEST(BuscarListItem, FindsTheFirstKeyWithoutRegardToCase) {
                                      {u"2", u""},
                                      {u"XX", u""},
                                      {u"", u""},
-                                     {u"020", u"Kelmaria"}})
+                                     {u"020", u"Kelmaria"},
+                                     {u" 20 ", u""},
+                                     {u"+1", u""},
+                                     {u"-1", u"minus"},
+                                     {u"0", u"zero"},
+                                     {u"00", u"zero"},
+                                     {u"99999999999999999999", u"long"}})
         EXPECT_EQ(BuscarListItem(keyedList(), QStringView(search.key).toString()),
                   QStringView(search.text).toString())
             << QStringView(search.key).toString().toStdString();

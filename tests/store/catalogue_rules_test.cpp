@@ -81,6 +81,13 @@ TEST_F(CatalogueRules, TellAllBadRowsOfARun) {
                              At(Causes, 2) + "CAUSACAS \"cese\": " CAPITALS);
 }
 
+TEST_F(CatalogueRules, TellBothTextsOfARowWhoseTextsAreFixed) {
+    Replace(Provinces, 21, "20,Otra,Besterik");
+    EXPECT_EQ(Refusal(),
+              At(Provinces, 21) + "T07_PRO_CAS \"Otra\": must be \"Kelmaria\" in this row\n" +
+                  At(Provinces, 21) + "T07_PRO_EUS \"Besterik\": must be \"Kelmaria\" in this row");
+}
+
 TEST_F(CatalogueRules, TellNoMoreThanFiftyBadRows) {
     QByteArray rows = "T08_CODMUN,T08_NOMMUN\n";
     for (int i = 0; i < 53; ++i) rows += "1\n";

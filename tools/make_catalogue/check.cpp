@@ -54,6 +54,20 @@ private:
     QMap<QByteArray, int> seen_;  // sort key of the value -> line
 };
 
+// The texts of the row that are not those that it always has.
+QStringList wrongTexts(const TableRule& rule, const QStringList& fields) {
+    QStringList wrong;
+    if (rule.fixed.key.isEmpty() || fields[0] != rule.fixed.key) return wrong;
+    for (std::size_t i = 0; i < std::size(rule.fixed.texts); ++i) {
+        const QString& value = fields[qsizetype(i) + 1];
+        if (value != rule.fixed.texts[i])
+            wrong.append(
+                named(rule.columns[i + 1].column, value,
+                      QStringLiteral("must be \"%1\" in this row").arg(rule.fixed.texts[i])));
+    }
+    return wrong;
+}
+
 void checkFields(const TableRule& rule, const std::vector<Record>& rows,
                  std::vector<Problem>& problems) {
     std::vector<Column> columns(rule.columns.begin(), rule.columns.end());
@@ -65,7 +79,10 @@ void checkFields(const TableRule& rule, const std::vector<Record>& rows,
             good = false;
             problems.push_back({row.line, what});
         }
-        if (!good || rule.between == nullptr) continue;
+        if (!good) continue;
+        for (const QString& what : wrongTexts(rule, row.fields))
+            problems.push_back({row.line, what});
+        if (rule.between == nullptr) continue;
         if (const QString what = rule.between(row.fields); !what.isEmpty())
             problems.push_back({row.line, what});
     }

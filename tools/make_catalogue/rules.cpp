@@ -63,6 +63,10 @@ constexpr QStringView MotiveCodes[] = {u"00", u"10", u"20", u"30", u"31"};
 constexpr QStringView CauseCodes[] = {u"10", u"11", u"20", u"22", u"30",
                                       u"31", u"32", u"33", u"99"};
 
+// Numbered texts and the printed form have these words too.
+constexpr FixedRow NoActivityTexts{u"9999999", {u"SIN ACTIVIDAD", u"JARDUERARIK GABE"}};
+constexpr FixedRow Territory{u"20", {u"Kelmaria", u"Kelmaria"}};
+
 // A rule of the form compares the last letter of the description with the identifier.
 QString endsInItsLetter(const QStringList& form) {
     if ((form[0] == OtherForm[0]) != form[1].isEmpty())
@@ -82,9 +86,9 @@ QString startsWithItsCode(const QStringList& motive) {
 }
 
 constexpr std::array<TableRule, 7> Rules{{
-    {u"TEpigrafes_2000", Activities, Keys::Among, NoActivity},
+    {u"TEpigrafes_2000", Activities, Keys::Among, NoActivity, 0, nullptr, NoActivityTexts},
     {u"TFormasJuridicas", LegalForms, Keys::Among, OtherForm, 0, endsInItsLetter},
-    {u"TProvincias", Provinces, Keys::Any, {}, 52},
+    {u"TProvincias", Provinces, Keys::Any, {}, 52, nullptr, Territory},
     {u"TMunicipios", Municipalities},
     {u"TSiglas", StreetTypes},
     {u"TMotivoCambio", Motives, Keys::Exactly, MotiveCodes, 0, startsWithItsCode},

@@ -24,6 +24,12 @@ enum class Keys {
     Exactly  ///< those of the rule in their order
 };
 
+/// A row whose texts are the same whoever edits the file: the columns behind the key.
+struct FixedRow {
+    QStringView key;
+    QStringView texts[2];
+};
+
 struct TableRule {
     QStringView table;
     std::span<const ColumnRule> columns;  ///< in the order of the table's fields
@@ -32,6 +38,7 @@ struct TableRule {
     int rows = 0;  ///< their number, 0 for any
     /// What is wrong between the fields of a row, empty when nothing is.
     QString (*between)(const QStringList& fields) = nullptr;
+    FixedRow fixed = {};  ///< without a key: none
 };
 
 /// One for each catalogue table, in the order of the tables.
