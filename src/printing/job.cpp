@@ -3,6 +3,7 @@
 #include "declaration/general_data.h"
 #include "printing/page1.h"
 #include "printing/page2.h"
+#include "printing/page3.h"
 #include "printing/primitives.h"
 
 namespace padral {
@@ -32,10 +33,16 @@ bool ConApartado2o3(const RegistrosImpresos& registros, const QString& /*tipoCop
     return datos.Apartado2 == u"X" || datos.Apartado3 == u"X";
 }
 
+bool ConApartado4o5(const RegistrosImpresos& registros, const QString& /*tipoCopia*/) {
+    const cDatosGenerales& datos = registros.generales;
+    return datos.Apartado4 == u"X" || datos.Apartado5 == u"X";
+}
+
 // In the order of the copy.
 constexpr EntradaPagina paginas[] = {
     {Siempre, 0.1F, 38.5F, ImprimirPaginasPrincipales},
     {ConApartado2o3, 0.1F, 35.5F, ImprimirHoja2},
+    {ConApartado4o5, 0.1F, 4, ImprimirApartados4y5},
 };
 
 QString TituloDocumento(const RegistrosImpresos& registros, const QString& tipoCopia) {

@@ -9,18 +9,22 @@ namespace {
 QString Cadena(const char16_t* texto) { return QString::fromUtf16(texto); }
 
 void EscribirSuelto(Impresora& p, Mm x, Mm y, const Rotulo& r) {
+    const QString texto = Cadena(r.texto);
     p.estado.cursiva = r.forma == Forma::Euskera;
+    p.estado.subrayado = r.subrayado;
     if (r.ancho > 0)
-        EscribirCentradoEnAncho(p, x, y, r.ancho, Cadena(r.texto));
+        EscribirCentradoEnAncho(p, x + r.x, y + r.y, r.ancho, texto);
+    else if (r.puntosHasta > 0)
+        EscribirConPuntos(p, x + r.x, y + r.y, x + r.puntosHasta, texto);
     else
-        EscribirTexto(p, x, y, Cadena(r.texto));
-    p.estado.cursiva = false;
+        EscribirTexto(p, x + r.x, y + r.y, texto);
+    p.estado.cursiva = p.estado.subrayado = false;
 }
 
 void EscribirRotulo(Impresora& p, Mm x, Mm y, const Rotulo& r) {
     if (r.forma == Forma::Ninguna) return;
     if (r.forma != Forma::Par)
-        EscribirSuelto(p, x + r.x, y + r.y, r);
+        EscribirSuelto(p, x, y, r);
     else if (r.ancho > 0)
         EscribirBilingueCentradoEnAncho(p, x + r.x, y + r.y, r.ancho, Cadena(r.texto),
                                         Cadena(r.segundo));
@@ -59,6 +63,11 @@ void DibujarRayas(Impresora& p, Mm x, Mm y, std::span<const Raya> rayas) {
     for (const Raya& r : rayas) DibujarLinea(p, x + r.x1, y + r.y1, x + r.x2, y + r.y2);
 }
 
+void DibujarMarcos(Impresora& p, Mm x, Mm y, std::span<const Marco> marcos) {
+    for (const Marco& m : marcos)
+        if (m.Hay()) DibujarMarco(p, x + m.x1, y + m.y1, x + m.x2, y + m.y2);
+}
+
 void DibujarRotulos(Impresora& p, Mm x, Mm y, const GrupoRotulos& grupo) {
     PonerLetra(p, grupo.cuerpo, grupo.negrita);
     for (const Rotulo& r : grupo.rotulos) EscribirRotulo(p, x, y, r);
@@ -69,8 +78,7 @@ void DibujarCasillas(Impresora& p, Mm x, Mm y, std::span<const Casilla> casillas
     for (const Casilla& c : casillas) {
         DibujarNumero(p, x, y, c, cuerpoNumeros);
         DibujarRotulos(p, x, y, {c.cuerpo, false, c.rotulos});
-        const Marco& m = c.marco;
-        if (m.Hay()) DibujarMarco(p, x + m.x1, y + m.y1, x + m.x2, y + m.y2);
+        DibujarMarcos(p, x, y, {&c.marco, 1});
     }
 }
 

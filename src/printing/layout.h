@@ -12,12 +12,16 @@ struct EstadoCompartido;
 class cDatosGenerales;
 struct DatosApartado2;
 struct DatosApartado3;
+struct DatosApartado4;
+struct RespuestasApartado5;
 
 /// The records that the pages read. Printing changes none of them.
 struct RegistrosImpresos {
     const cDatosGenerales& generales;
     const DatosApartado2& apartado2;
     const DatosApartado3& apartado3;
+    const DatosApartado4& apartado4;
+    const RespuestasApartado5& apartado5;
 };
 
 /// What the routines of a page work with.
@@ -40,8 +44,8 @@ struct Marco {
 /// The frame of a check mark, 4 x 4 mm.
 constexpr Marco Cuadro(Mm x, Mm y) { return {x, y, x + 4, y + 4}; }
 
-/// How a caption is written. Basque is in italics, Spanish is not.
-enum class Forma { Ninguna, Euskera, Castellano, Par };
+/// How a caption is written. Basque beside Spanish is in italics, a language alone is not.
+enum class Forma { Ninguna, Euskera, Castellano, Par, Sola };
 
 /// A caption at a point or, with `ancho`, centred in that width from `x` (`y` is its top then).
 struct Rotulo {
@@ -49,6 +53,8 @@ struct Rotulo {
     Mm x = 0, y = 0, ancho = 0;
     const char16_t* texto = nullptr;    ///< Basque text of a pair
     const char16_t* segundo = nullptr;  ///< Spanish text of a pair
+    bool subrayado = false;             ///< not for a pair
+    Mm puntosHasta = 0;                 ///< with dots up to what stands there; not for a pair
 };
 
 constexpr Rotulo Eus(Mm x, Mm y, const char16_t* texto) {
@@ -63,6 +69,23 @@ constexpr Rotulo Par(Mm x, Mm y, const char16_t* eus, const char16_t* cas) {
 /// The same caption centred in a width.
 constexpr Rotulo EnAncho(Mm ancho, Rotulo rotulo) {
     rotulo.ancho = ancho;
+    return rotulo;
+}
+constexpr Rotulo Subrayado(Rotulo rotulo) {
+    rotulo.subrayado = true;
+    return rotulo;
+}
+constexpr Rotulo ConPuntos(Mm hasta, Rotulo rotulo) {
+    rotulo.puntosHasta = hasta;
+    return rotulo;
+}
+/// The part of a caption that a page in one language has: that text of a pair, alone; of a caption
+/// in the other language, nothing.
+constexpr Rotulo EnUnIdioma(Rotulo rotulo, bool euskera) {
+    const Forma ajena = euskera ? Forma::Castellano : Forma::Euskera;
+    if (rotulo.forma == ajena) return {};
+    if (rotulo.forma == Forma::Par && !euskera) rotulo.texto = rotulo.segundo;
+    if (rotulo.forma != Forma::Ninguna) rotulo.forma = Forma::Sola;
     return rotulo;
 }
 
@@ -91,6 +114,7 @@ struct GrupoRotulos {
 };
 
 void DibujarRayas(Impresora& p, Mm x, Mm y, std::span<const Raya> rayas);
+void DibujarMarcos(Impresora& p, Mm x, Mm y, std::span<const Marco> marcos);
 void DibujarRotulos(Impresora& p, Mm x, Mm y, const GrupoRotulos& grupo);
 /// Numbers (bold), captions and frames of the boxes.
 void DibujarCasillas(Impresora& p, Mm x, Mm y, std::span<const Casilla> casillas,

@@ -34,9 +34,7 @@ void DibujarDomicilio(Impresora& p, Mm x, Mm y, const Domicilio& d, std::size_t 
         DibujarCajaGris(p, x + celda.x1, y + forma.grisArriba, x + celda.x2, y + forma.grisAbajo);
     DibujarRotulos(p, x, y, {8, true, d.titulos});
     DibujarCampos(p, x, y, d, orden);
-    if (d.elMismo == nullptr) return;
-    const Marco& m = marcoElMismo;
-    DibujarMarco(p, x + m.x1, y + m.y1, x + m.x2, y + m.y2);
+    if (d.elMismo != nullptr) DibujarMarcos(p, x, y, {&marcoElMismo, 1});
 }
 
 void RellenarDomicilio(Impresora& p, Mm x, Mm y, const Domicilio& d, const DatosApartado2& datos) {

@@ -18,7 +18,7 @@ void RellenarPorcentaje(const Hoja& hoja, Mm y) {
 void DibujarApartado3(const Hoja& hoja, Mm x, Mm y) {
     Impresora& p = hoja.impresora;
     DibujarRayas(p, x, y, rayasApartado3);
-    for (const Marco& m : marcosSueltos) DibujarMarco(p, x + m.x1, y + m.y1, x + m.x2, y + m.y2);
+    DibujarMarcos(p, x, y, marcosSueltos);
     DibujarRotulos(p, x, y, {8, true, tituloApartado3});
     for (const auto& grupo : grupos) DibujarCasillas(p, x, y, grupo, CuerpoPequeno);
     DibujarRotulos(p, x, y, {8, true, tituloEntidades});

@@ -5,6 +5,8 @@ namespace {
 
 /// Part of its height by which a text begins above its coordinate.
 constexpr Mm Subida = 0.35F;
+/// Between the last dot and what follows.
+constexpr Mm HuecoTrasPuntos = 1;
 constexpr Punto LugarCopia = {193.5F, 125};
 
 void ImprimirEn(Impresora& p, Mm x, Mm y, const QString& texto) {
@@ -31,6 +33,12 @@ void DibujarCajaGris(Impresora& p, Mm x1, Mm y1, Mm x2, Mm y2) {
 
 void EscribirTexto(Impresora& p, Mm x, Mm y, const QString& texto) {
     ImprimirEn(p, x, y - p.AltoTexto(texto) * Subida, texto);
+}
+
+void EscribirConPuntos(Impresora& p, Mm x, Mm y, Mm xHasta, const QString& texto) {
+    const Mm libre = xHasta - HuecoTrasPuntos - x - p.AnchoTexto(texto);
+    const int puntos = static_cast<int>(libre / p.AnchoTexto(QStringLiteral(".")));
+    EscribirTexto(p, x, y, puntos > 0 ? texto + QString(puntos, u'.') : texto);
 }
 
 void EscribirBilingue(Impresora& p, Mm x, Mm y, const QString& eus, const QString& cas) {

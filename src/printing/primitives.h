@@ -24,6 +24,8 @@ void DibujarCajaGris(Impresora& p, Mm x1, Mm y1, Mm x2, Mm y2);
 
 /// Text whose base line sits near `y`: it begins 0.35 of its height above.
 void EscribirTexto(Impresora& p, Mm x, Mm y, const QString& texto);
+/// The same text filled with dots: as many as fit up to 1 mm before `xHasta`.
+void EscribirConPuntos(Impresora& p, Mm x, Mm y, Mm xHasta, const QString& texto);
 /// "eus / cas", Basque in italics, at a point as EscribirTexto; leaves italics off.
 void EscribirBilingue(Impresora& p, Mm x, Mm y, const QString& eus, const QString& cas);
 /// Centred between `x` and `x + ancho`; `y` is the top.

@@ -17,7 +17,7 @@ bool Igual(const Operacion& o, const TextoEsperado& t) {
     const EstadoDibujo& e = o.estado;
     return o.tipo == Operacion::Texto && o.texto == t.texto && Cerca(o.desde, t.x, t.y) &&
            Cerca(e.cuerpo, t.cuerpo) && e.negrita == t.negrita && e.cursiva == t.cursiva &&
-           !e.subrayado && e.fuente == t.fuente && e.primerPlano == 0x000000;
+           e.subrayado == t.subrayado && e.fuente == t.fuente && e.primerPlano == 0x000000;
 }
 
 std::string Describir(const Operacion& o) {
@@ -33,6 +33,16 @@ std::string Describir(const Operacion& o) {
         .arg(o.estado.fuente)
         .arg(o.estado.pluma)
         .toStdString();
+}
+
+/// Some rows leave room for an exact number of dots, so the sum is made from left to right.
+QString Puntos(const FilaTexto& f) {
+    if (f.hasta <= 0) return {};
+    const float libre =
+        X + f.hasta - 1 - (X + f.x) - AnchoFijo(Cadena(f.texto), f.cuerpo, f.negrita, f.cursiva);
+    const auto caben = static_cast<qsizetype>(
+        libre / AnchoFijo(QStringLiteral("."), f.cuerpo, f.negrita, f.cursiva));
+    return QString(std::max(caben, qsizetype{0}), u'.');
 }
 
 bool MismoTrazo(const Operacion& o, Operacion::Tipo tipo, float origen, const FilaTrazo& f) {
@@ -121,10 +131,11 @@ std::vector<TextoEsperado> Textos(float origen, const FilaNumero& f, float cuerp
 }
 
 std::vector<TextoEsperado> Textos(float origen, const FilaTexto& f) {
-    const QString texto = Cadena(f.texto);
+    const QString texto = Cadena(f.texto) + Puntos(f);
     const float y = origen + f.y;
     if (f.ancho <= 0)
-        return {{texto, X + f.x, Arriba(y, f.cuerpo), f.cuerpo, f.negrita, f.cursiva, estrecha}};
+        return {{texto, X + f.x, Arriba(y, f.cuerpo), f.cuerpo, f.negrita, f.cursiva, estrecha,
+                 f.subrayado}};
     const float ancho = AnchoFijo(texto, f.cuerpo, f.negrita, f.cursiva);
     const float x = f.ancho / 2 + X + f.x - ancho / 2;
     return {{texto, x, y, f.cuerpo, f.negrita, f.cursiva, estrecha}};

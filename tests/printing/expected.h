@@ -21,12 +21,15 @@ struct FilaNumero {
     float x, y;
     bool derecha = false;
 };
-/// A text at a point or, with `ancho`, centred in that width below `y`.
+/// A text at a point or, with `ancho`, centred in that width below `y`. With `hasta` it is followed
+/// by as many dots as fit up to 1 mm before that place.
 struct FilaTexto {
     float x, y, ancho;
     float cuerpo;
     bool negrita, cursiva;
     const char16_t* texto;
+    bool subrayado = false;
+    float hasta = 0;
 };
 /// A Basque and Spanish pair, likewise.
 struct FilaPar {
@@ -43,6 +46,7 @@ struct TextoEsperado {
     float cuerpo;
     bool negrita, cursiva;
     QString fuente;
+    bool subrayado = false;
 };
 
 /// What was drawn on one page and not yet claimed by a row.

@@ -71,7 +71,7 @@ TEST(ImprimirDeclaracion, LasCopiasSoloSeDistinguenEnElTitulo) {
 }
 
 struct FilaSecciones {
-    const char16_t *apartado2, *apartado3;
+    const char16_t *primero, *segundo;  ///< marks of the two sections of a page
     int paginas;
 };
 const FilaSecciones secciones[] = {
@@ -82,8 +82,17 @@ const FilaSecciones secciones[] = {
 TEST(ImprimirDeclaracion, LaHoja2ConElApartado2OEl3) {
     for (const auto& fila : secciones) {
         Impresion impresion;
-        impresion.datos.Apartado2 = QString::fromUtf16(fila.apartado2);
-        impresion.datos.Apartado3 = QString::fromUtf16(fila.apartado3);
+        impresion.datos.Apartado2 = QString::fromUtf16(fila.primero);
+        impresion.datos.Apartado3 = QString::fromUtf16(fila.segundo);
+        EXPECT_EQ(impresion.Copia().paginasTerminadas, fila.paginas);
+    }
+}
+
+TEST(ImprimirDeclaracion, LaHoja3ConElApartado4OEl5) {
+    for (const auto& fila : secciones) {
+        Impresion impresion;
+        impresion.datos.Apartado4 = QString::fromUtf16(fila.primero);
+        impresion.datos.Apartado5 = QString::fromUtf16(fila.segundo);
         EXPECT_EQ(impresion.Copia().paginasTerminadas, fila.paginas);
     }
 }
@@ -93,7 +102,8 @@ QStringList Recorrido(const Documento& documento) {
     QStringList recorrido;
     for (const auto& o : documento.operaciones) {
         const bool sello = o.tipo == Operacion::Imagen && o.desde.x > 190;
-        const bool titulo = o.tipo == Operacion::Texto && o.texto.contains(u"ATALA: ");
+        const bool titulo = o.tipo == Operacion::Texto &&
+                            (o.texto.contains(u"ATALA: ") || o.texto.startsWith(u"APARTADO "));
         if (sello || titulo) recorrido << QStringLiteral("%1 %2").arg(o.pagina).arg(o.texto);
     }
     return recorrido;
@@ -102,14 +112,20 @@ QStringList Recorrido(const Documento& documento) {
 TEST(ImprimirDeclaracion, LasHojasVanEnSuOrdenEnCadaCopia) {
     Impresion impresion;
     impresion.datos.Apartado3 = QStringLiteral("X");
+    impresion.datos.Apartado5 = QStringLiteral("X");
     for (const auto& [tipo, sello] :
          {std::pair(u"AD", u"Administracion"), std::pair(u"IT", u"Interesado"),
           std::pair(u"BO", u"Borrador")}) {
         const QString nombre = QString::fromUtf16(sello);
         const QStringList esperado = {
-            QStringLiteral("1 1.ATALA: AURKEZPENAREN ARRAZOIA"), QStringLiteral("1 ") + nombre,
+            QStringLiteral("1 1.ATALA: AURKEZPENAREN ARRAZOIA"),
+            QStringLiteral("1 ") + nombre,
             QStringLiteral("2 2. ATALA: KOKALEKUA"),
-            QStringLiteral("2 3.ATALA: PADRALKO BESTELAKO DATUAK"), QStringLiteral("2 ") + nombre};
+            QStringLiteral("2 3.ATALA: PADRALKO BESTELAKO DATUAK"),
+            QStringLiteral("2 ") + nombre,
+            QStringLiteral("3 APARTADO 4: SOLICITUDES ESPECIFICAS"),
+            QStringLiteral("3 APARTADO 5: SITUACIÓN TRIBUTARIA Y DECLARACIONES LIQUIDACIONES"),
+            QStringLiteral("3 ") + nombre};
         const Documento& documento = impresion.Copia(QString::fromUtf16(tipo));
         EXPECT_EQ(Recorrido(documento), esperado);
         EXPECT_TRUE(documento.cerrado);
@@ -173,6 +189,19 @@ TEST(ImprimirDeclaracion, NoCambiaLosApartados2Y3) {
     impresion.Copia();
     EXPECT_EQ(impresion.apartado2, antes2);
     EXPECT_EQ(impresion.apartado3, antes3);
+}
+
+TEST(ImprimirDeclaracion, NoCambiaLosApartados4Y5) {
+    Impresion impresion;
+    impresion.datos.Apartado4 = QStringLiteral("X");
+    impresion.apartado4.IVASOCIO = QStringLiteral("S");
+    impresion.apartado4.NOMBRE = QStringLiteral("Etxeberria Anaiak");
+    impresion.apartado5.IVA = QStringLiteral("N");
+    const DatosApartado4 antes4 = impresion.apartado4;
+    const RespuestasApartado5 antes5 = impresion.apartado5;
+    impresion.Copia();
+    EXPECT_EQ(impresion.apartado4, antes4);
+    EXPECT_EQ(impresion.apartado5, antes5);
 }
 
 }  // namespace

@@ -75,6 +75,23 @@ TEST_F(Primitivas, TextosDeDistintoCuerpoCompartenLinea) {
     EsperaTexto(0, u"a", 20, 30 - 2.4F * 0.35F, false);
 }
 
+struct FilaPuntos {
+    float hasta;
+    const char16_t* escrito;
+};
+// "abc" takes 6 mm and each dot 2 mm; the dots end 1 mm before.
+constexpr FilaPuntos filasPuntos[] = {
+    {20, u"abc"},     {27.5F, u"abc"},   {28.9F, u"abc"},      {29.1F, u"abc."},
+    {30.9F, u"abc."}, {31.1F, u"abc.."}, {38.9F, u"abc....."}, {39.1F, u"abc......"},
+};
+
+TEST_F(Primitivas, PuntosHastaLoQueSigue) {
+    for (std::size_t i = 0; i < std::size(filasPuntos); ++i) {
+        EscribirConPuntos(p, 20, 30, filasPuntos[i].hasta, QStringLiteral("abc"));
+        EsperaTexto(i, filasPuntos[i].escrito, 20, 28.6F, false);
+    }
+}
+
 TEST_F(Primitivas, BilingueEnUnPunto) {
     EscribirBilingue(p, 20, 30, Eus, Cas);
     EsperaTexto(0, u"IFZ", 20, 28.6F, true);

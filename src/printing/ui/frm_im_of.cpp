@@ -142,7 +142,9 @@ void FrmImOf::Aceptar() {
         estado_.Avisar(702, 703);
         return;
     }
-    Imprimir modulo(estado_, {declaracion_.general, declaracion_.apartado2, declaracion_.apartado3},
+    Imprimir modulo(estado_,
+                    {declaracion_.general, declaracion_.apartado2, declaracion_.apartado3,
+                     declaracion_.apartado4, declaracion_.apartado5},
                     destino_);
     for (const QString& copia : CopiasPedidas(opciones())) modulo.ImprimirDeclaracion(copia);
     avisarFicheros();

@@ -2,57 +2,15 @@
 
 #include <gtest/gtest.h>
 
-#include <QRegularExpression>
 #include <QTemporaryDir>
 #include <cmath>
 
+#include "paper_pages.h"
 #include "pdf_reader.h"
 #include "printing/print_fixture.h"
-#include "printing/ui/qt_printer.h"
 
 namespace padral::test {
 namespace {
-
-std::unique_ptr<ImpresoraQt> PapelEn(const QString& fichero) {
-    auto impresora = std::make_shared<QPrinter>(QPrinter::HighResolution);
-    impresora->setOutputFormat(QPrinter::PdfFormat);
-    impresora->setOutputFileName(fichero);
-    impresora->setFullPage(true);
-    impresora->setPageSize(QPageSize(QPageSize::A4));
-    return std::make_unique<ImpresoraQt>(impresora, QPointF(5, 5));
-}
-
-struct FabricaPapel : FabricaImpresora {
-    QString fichero;
-    std::unique_ptr<Impresora> Abrir(const QString& /*titulo*/) override {
-        return PapelEn(fichero);
-    }
-};
-
-/// Writes down what is drawn, measured with the fonts of the paper.
-class MedidoraPapel : public RecordingPrinter {
-public:
-    explicit MedidoraPapel(const std::shared_ptr<Documento>& documento)
-        : RecordingPrinter(documento), papel_(PapelEn(QString())) {}
-    Mm AnchoTexto(const QString& texto) const override {
-        papel_->estado = estado;
-        return papel_->AnchoTexto(texto);
-    }
-    Mm AltoTexto(const QString& texto) const override {
-        papel_->estado = estado;
-        return papel_->AltoTexto(texto);
-    }
-
-private:
-    std::unique_ptr<ImpresoraQt> papel_;
-};
-
-struct FabricaMedida : FabricaImpresora {
-    std::shared_ptr<Documento> documento = std::make_shared<Documento>();
-    std::unique_ptr<Impresora> Abrir(const QString& /*titulo*/) override {
-        return std::make_unique<MedidoraPapel>(documento);
-    }
-};
 
 struct ImpresionHoja2 : Impresion {
     ImpresionHoja2() { datos.Apartado3 = QStringLiteral("X"); }
@@ -73,32 +31,7 @@ TEST(Hoja2EnPapel, SeLeenTodosSusNumeros) {
     for (int n = 29; n <= 38; ++n) numeros << n;
     for (int n = 131; n <= 160; ++n) numeros << n;
     for (int n = 251; n <= 264; ++n) numeros << n;
-    for (const int numero : numeros) {
-        // A caption may follow at once.
-        const QRegularExpression palabra(QStringLiteral("(?<!\\d)%1(?!\\d)").arg(numero));
-        EXPECT_TRUE(texto.contains(palabra)) << numero;
-    }
-}
-
-/// A text of the second page with the place that it takes; without its blanks at the end.
-struct Tramo {
-    QString texto;
-    Mm x1, x2, y1, y2;
-};
-
-std::vector<Tramo> Tramos(const Documento& documento) {
-    const auto papel = PapelEn(QString());
-    std::vector<Tramo> tramos;
-    for (const auto& o : documento.De(Operacion::Texto)) {
-        if (o.pagina != 2 || o.texto.isEmpty()) continue;
-        papel->estado = o.estado;
-        const Mm alto = papel->AltoTexto(o.texto);
-        const Mm ancho = papel->AnchoTexto(o.texto);
-        // Letters fill the middle of their line.
-        tramos.push_back({o.texto, o.desde.x, o.desde.x + ancho, o.desde.y + alto * 0.25F,
-                          o.desde.y + alto * 0.8F});
-    }
-    return tramos;
+    for (const int numero : numeros) EXPECT_TRUE(TieneNumero(texto, numero)) << numero;
 }
 
 class Hoja2Medida : public testing::Test {
@@ -107,10 +40,9 @@ protected:
     std::vector<Tramo> tramos;
     void SetUp() override {
         ImpresionHoja2().En(fabrica);
-        tramos = Tramos(*fabrica.documento);
+        tramos = Tramos(*fabrica.documento, 2);
         ASSERT_GT(tramos.size(), 200U);
     }
-    static bool MismaLinea(const Tramo& a, const Tramo& b) { return a.y1 < b.y2 && b.y1 < a.y2; }
 };
 
 TEST_F(Hoja2Medida, NingunTextoSaleDelImpreso) {
@@ -126,7 +58,7 @@ TEST_F(Hoja2Medida, NingunTextoPisaAOtro) {
                                 QStringLiteral("156")};
     for (const auto& a : tramos)
         for (const auto& b : tramos) {
-            if (&a == &b || !MismaLinea(a, b) || a.x1 > b.x1) continue;
+            if (&a == &b || !a.MismaLinea(b) || a.x1 > b.x1) continue;
             const Mm holgura = justos.contains(a.texto) ? 0.5F : 0.01F;
             EXPECT_LT(a.x2, b.x1 + holgura)
                 << a.texto.toStdString() << " over " << b.texto.toStdString();

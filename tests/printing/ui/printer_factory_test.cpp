@@ -19,6 +19,8 @@
 #include "printing/job.h"
 #include "sections/location/section2.h"
 #include "sections/location/section3.h"
+#include "sections/tax/section4.h"
+#include "sections/tax/section5.h"
 #include "support/recorders.h"
 
 namespace padral::test {
@@ -34,6 +36,8 @@ protected:
     cDatosGenerales datos{declaracion};
     DatosApartado2 apartado2;
     DatosApartado3 apartado3;
+    DatosApartado4 apartado4;
+    RespuestasApartado5 apartado5;
     FabricaQt fabrica{reloj};
 
     void SetUp() override {
@@ -46,7 +50,8 @@ protected:
         datos.NOMBRE = QStringLiteral("MUÑOZ ETXEBERRIA, MIREN");
     }
     void Imprime(const QString& copia) {
-        Imprimir(estado, {datos, apartado2, apartado3}, fabrica).ImprimirDeclaracion(copia);
+        Imprimir(estado, {datos, apartado2, apartado3, apartado4, apartado5}, fabrica)
+            .ImprimirDeclaracion(copia);
     }
     QString EnDocumentos(const QString& nombre) const {
         return casa.filePath(QStringLiteral("Documents/") + nombre);
