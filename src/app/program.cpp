@@ -8,6 +8,8 @@
 #include "online/frm_inicio.h"
 #include "platform/instance_mark.h"
 #include "printing/ui/frm_im_of.h"
+#include "sections/location/screen/frm_apartado2.h"
+#include "sections/location/screen/frm_apartado3.h"
 #include "store/list/frm_dec_lista.h"
 #include "ui/qt_language.h"
 
@@ -71,6 +73,19 @@ QWidget* Programa::CrearLista() {
     return new FrmDecLista({estado_, *ventana_, guardia_}, *declaracion_, lista_);
 }
 
+void Programa::registrarApartados(const Contexto& contexto) {
+    ventana_->Registrar(QStringLiteral("FrmApartado2"), [this, contexto]() -> QWidget* {
+        return new FrmApartado2(contexto, *declaracion_);
+    });
+    const std::pair<QString, EdicionApartado3> ediciones3[] = {
+        {QStringLiteral("FrmApartado3"), EdicionApartado3::Hasta2014},
+        {QStringLiteral("FrmApartado3_2015"), EdicionApartado3::Desde2015}};
+    for (const auto& [nombre, edicion] : ediciones3)
+        ventana_->Registrar(nombre, [this, contexto, edicion = edicion]() -> QWidget* {
+            return new FrmApartado3(contexto, *declaracion_, edicion);
+        });
+}
+
 void Programa::registrarPantallas() {
     const Contexto contexto{estado_, *ventana_, guardia_};
     ventana_->Registrar(QStringLiteral("FrmDatGen"), [this, contexto]() -> QWidget* {
@@ -78,6 +93,7 @@ void Programa::registrarPantallas() {
     });
     ventana_->Registrar(QStringLiteral("FrmDecLista"),
                         [this]() -> QWidget* { return CrearLista(); });
+    registrarApartados(contexto);
     ventana_->Registrar(QStringLiteral("FrmImOf"), [this, contexto]() -> QWidget* {
         return new FrmImOf(contexto, *declaracion_, puertos_.impresora);
     });

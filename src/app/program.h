@@ -12,6 +12,7 @@
 #include "printing/ui/print_target.h"
 #include "store/list/dec_lista.h"
 #include "ui/field_guard.h"
+#include "ui/screen.h"
 
 namespace padral {
 
@@ -49,6 +50,7 @@ public:
 
 private:
     void registrarPantallas();
+    void registrarApartados(const Contexto& contexto);
     void ponerIdioma();
 
     Puertos puertos_;

@@ -2,6 +2,7 @@
 // caption cut off, no access key used twice, no text of the other language.
 
 #include <QApplication>
+#include <QCheckBox>
 #include <QLineEdit>
 #include <QListWidget>
 #include <QPushButton>
@@ -91,6 +92,39 @@ protected:
         mirarVentana("FrmDatGen", "modification");
         guia().Pulsar(QStringLiteral("cmdCancelar"));
     }
+    QString fecha(const char* castellana, const char* vasca) {
+        return QString::fromLatin1(euskera() ? vasca : castellana);
+    }
+    /// A new declaration whose effective date lies on one side of 1 January 2015 or the other.
+    void declarar(bool desde2015) {
+        guia().Ordenar(QStringLiteral("Nueva"));
+        guia().Escribir(QStringLiteral("txtDNI"), QStringLiteral("12345678Z"));
+        guia().Pulsar(QStringLiteral("chkDeclaracionModificacion"));
+        guia().Escribir(QStringLiteral("mskFechaModificacion"),
+                        desde2015 ? fecha("02112026", "20261102") : fecha("02112013", "20131102"));
+        for (const char* casilla : {"chkApartado2", "chkApartado3"})
+            if (!guia().Busca<QCheckBox>(QString::fromLatin1(casilla))->isChecked())
+                guia().Pulsar(QString::fromLatin1(casilla));
+    }
+    void recorrerApartado2() {
+        guia().Pulsar(QStringLiteral("cmdApartado2"));
+        mirarVentana("FrmApartado2");
+        guia().Escribir(QStringLiteral("txtSigDomFis"), QStringLiteral("CL"));
+        guia().Pulsar(QStringLiteral("chkDSocElMismo"));
+        mirarVentana("FrmApartado2", "mark");
+        guia().Pulsar(QStringLiteral("cmdCancelar"));
+    }
+    void recorrerApartados() {
+        for (const bool desde2015 : {false, true}) {
+            declarar(desde2015);
+            recorrerApartado2();
+            guia().Pulsar(QStringLiteral("cmdApartado3"));
+            mirarVentana(desde2015 ? "FrmApartado3_2015" : "FrmApartado3");
+            guia().Pulsar(QStringLiteral("cmdCancelar"));
+            if (pantalla("FrmApartado2")) guia().Pulsar(QStringLiteral("cmdCancelar"));
+            guia().Pulsar(QStringLiteral("cmdCancelar"));
+        }
+    }
     void recorrerLista() {
         guardarUna();
         guia().Ordenar(QStringLiteral("Abrir"));
@@ -154,6 +188,7 @@ protected:
 TEST_P(TodasLasPantallas, SeLeenEnterasYEnSuIdioma) {
     mirarVentana("MDIPadral");
     recorrerDatosGenerales();
+    recorrerApartados();
     recorrerLista();
     recorrerImpresion();
     recorrerDialogos();

@@ -56,6 +56,9 @@ public:
 private:
     void arrancar();
     void declararEmpresa();
+    void declararDomicilios();
+    void declararDatos();
+    void escribir(const std::vector<std::pair<const char*, const char16_t*>>& campos);
     void declararPersona();
     void buscar();
     void imprimir();
@@ -130,8 +133,50 @@ void Visita::declararEmpresa() {
     guia_->Escribir(QStringLiteral("txtNombreRepresentante"), QStringLiteral("Agirre Soto, Miren"));
     guia_->Escribir(QStringLiteral("txtFirmaEnCalidadDe"), QStringLiteral("Administradora"));
     guia_->ElegirPestana(QStringLiteral("Pestaña"), 0);
+    for (const char* casilla : {"chkApartado2", "chkApartado3"})
+        guia_->Pulsar(QString::fromLatin1(casilla));
     foto(QStringLiteral("07-general-data-filled"));
+    declararDomicilios();
+    declararDatos();
     guia_->Pulsar(QStringLiteral("cmdAceptar"));
+}
+
+void Visita::escribir(const std::vector<std::pair<const char*, const char16_t*>>& campos) {
+    for (const auto& [campo, texto] : campos)
+        guia_->Escribir(QString::fromLatin1(campo), QString::fromUtf16(texto));
+}
+
+void Visita::declararDomicilios() {
+    guia_->Pulsar(QStringLiteral("cmdApartado2"));
+    escribir({{"txtSigDomFis", u"CL"},
+              {"txtDomFis", u"Errota Zaharra"},
+              {"numNumFis", u"12"},
+              {"txtPisFis", u"3"},
+              {"txtManFis", u"B"},
+              {"numCodProvFis", u"20"},
+              {"numCodFis", u"20500"},
+              {"numCodMunFis", u"1"},
+              {"numTelFis", u"943112233"}});
+    guia_->Pulsar(QStringLiteral("chkDSocElMismo"));
+    escribir({{"txtSigDomAct", u"PG"}, {"txtDomAct", u"Ibaialde"}});
+    guia_->Pulsar(QStringLiteral("cmdLstProvAct"));
+    foto(QStringLiteral("16-provinces"));
+    guia_->Tecla(Qt::Key_Escape);
+    escribir({{"numCodProvAct", u"1"}, {"numCodact", u"01005"}, {"txtMunAct", u"Vitoria"}});
+    foto(QStringLiteral("17-section2"));
+    guia_->Pulsar(QStringLiteral("cmdApartadoSiguiente"));
+}
+
+void Visita::declararDatos() {
+    guia_->Pulsar(QStringLiteral("optResidente(0)"));
+    escribir({{"txtDescripcionActividad", u"1.6912"}, {"txtAnagrama", u"Ibaialde"}});
+    guia_->ElegirEnCombo(QStringLiteral("cmbDescFormaJuridica"), QStringLiteral("S"));
+    for (const char* casilla :
+         {"chkEuskera", "chkElectronico", "chkCorreoAlta", "chkTelMovilAlta", "chkConsentimiento"})
+        guia_->Pulsar(QString::fromLatin1(casilla));
+    escribir({{"txtDirCorreo", u"tailerra@ibaialde.example"}, {"numMovil", u"600112233"}});
+    foto(QStringLiteral("18-section3"));
+    guia_->Pulsar(QStringLiteral("cmdInicio"));
 }
 
 void Visita::declararPersona() {
