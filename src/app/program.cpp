@@ -10,6 +10,8 @@
 #include "printing/ui/frm_im_of.h"
 #include "sections/location/screen/frm_apartado2.h"
 #include "sections/location/screen/frm_apartado3.h"
+#include "sections/tax/screen/frm_apartado4.h"
+#include "sections/tax/screen/frm_apartado5.h"
 #include "store/list/frm_dec_lista.h"
 #include "ui/qt_language.h"
 
@@ -77,13 +79,20 @@ void Programa::registrarApartados(const Contexto& contexto) {
     ventana_->Registrar(QStringLiteral("FrmApartado2"), [this, contexto]() -> QWidget* {
         return new FrmApartado2(contexto, *declaracion_);
     });
-    const std::pair<QString, EdicionApartado3> ediciones3[] = {
-        {QStringLiteral("FrmApartado3"), EdicionApartado3::Hasta2014},
-        {QStringLiteral("FrmApartado3_2015"), EdicionApartado3::Desde2015}};
-    for (const auto& [nombre, edicion] : ediciones3)
-        ventana_->Registrar(nombre, [this, contexto, edicion = edicion]() -> QWidget* {
-            return new FrmApartado3(contexto, *declaracion_, edicion);
+    registrarEdiciones<FrmApartado3, EdicionApartado3>(contexto, QStringLiteral("FrmApartado3"));
+    registrarEdiciones<frmApartado4, EdicionApartado4>(contexto, QStringLiteral("frmApartado4"));
+    registrarEdiciones<frmApartado5, EdicionApartado5>(contexto, QStringLiteral("frmApartado5"));
+}
+
+template <class Formulario, class Edicion>
+void Programa::registrarEdiciones(const Contexto& contexto, const QString& nombre) {
+    const auto registrar = [&](const QString& conEdicion, Edicion edicion) {
+        ventana_->Registrar(conEdicion, [this, contexto, edicion]() -> QWidget* {
+            return new Formulario(contexto, *declaracion_, edicion);
         });
+    };
+    registrar(nombre, Edicion::Hasta2014);
+    registrar(nombre + QStringLiteral("_2015"), Edicion::Desde2015);
 }
 
 void Programa::registrarPantallas() {

@@ -51,6 +51,9 @@ public:
 private:
     void registrarPantallas();
     void registrarApartados(const Contexto& contexto);
+    /// A screen with an edition before 2015 and one since then.
+    template <class Formulario, class Edicion>
+    void registrarEdiciones(const Contexto& contexto, const QString& nombre);
     void ponerIdioma();
 
     Puertos puertos_;

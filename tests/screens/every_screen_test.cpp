@@ -99,10 +99,13 @@ protected:
     void declarar(bool desde2015) {
         guia().Ordenar(QStringLiteral("Nueva"));
         guia().Escribir(QStringLiteral("txtDNI"), QStringLiteral("12345678Z"));
+        guia().Escribir(QStringLiteral("txtNombre"), QStringLiteral("Lasa Etxe, Jon"));
+        guia().Escribir(QStringLiteral("mskFechaDeclaracion"), fecha("31012026", "20260131"));
+        guia().Pulsar(QStringLiteral("chkElMismo"));
         guia().Pulsar(QStringLiteral("chkDeclaracionModificacion"));
         guia().Escribir(QStringLiteral("mskFechaModificacion"),
                         desde2015 ? fecha("02112026", "20261102") : fecha("02112013", "20131102"));
-        for (const char* casilla : {"chkApartado2", "chkApartado3"})
+        for (const char* casilla : {"chkApartado2", "chkApartado3", "chkApartado4", "chkApartado5"})
             if (!guia().Busca<QCheckBox>(QString::fromLatin1(casilla))->isChecked())
                 guia().Pulsar(QString::fromLatin1(casilla));
     }
@@ -114,14 +117,32 @@ protected:
         mirarVentana("FrmApartado2", "mark");
         guia().Pulsar(QStringLiteral("cmdCancelar"));
     }
+    void recorrerApartado5(const char* formulario) {
+        guia().Pulsar(QStringLiteral("cmdApartado5"));
+        mirarVentana(formulario);
+        guia().Pulsar(QStringLiteral("chk27"));
+        mirarVentana(formulario, "yes branch");
+        guia().Pulsar(QStringLiteral("chk28"));
+        mirarVentana(formulario, "no branch");
+        guia().Pulsar(QStringLiteral("cmdCancelar"));
+    }
+    /// Cancels whatever sections are open, back to the general data.
+    void volver() {
+        for (int i = 0; i < 6 && !pantalla("FrmDatGen"); ++i)
+            guia().Pulsar(QStringLiteral("cmdCancelar"));
+    }
     void recorrerApartados() {
         for (const bool desde2015 : {false, true}) {
             declarar(desde2015);
             recorrerApartado2();
             guia().Pulsar(QStringLiteral("cmdApartado3"));
             mirarVentana(desde2015 ? "FrmApartado3_2015" : "FrmApartado3");
-            guia().Pulsar(QStringLiteral("cmdCancelar"));
-            if (pantalla("FrmApartado2")) guia().Pulsar(QStringLiteral("cmdCancelar"));
+            volver();
+            guia().Pulsar(QStringLiteral("cmdApartado4"));
+            mirarVentana(desde2015 ? "frmApartado4_2015" : "frmApartado4");
+            volver();
+            recorrerApartado5(desde2015 ? "frmApartado5_2015" : "frmApartado5");
+            volver();
             guia().Pulsar(QStringLiteral("cmdCancelar"));
         }
     }

@@ -58,6 +58,8 @@ private:
     void declararEmpresa();
     void declararDomicilios();
     void declararDatos();
+    void declararSolicitudes();
+    void declararSituacion();
     void escribir(const std::vector<std::pair<const char*, const char16_t*>>& campos);
     void declararPersona();
     void buscar();
@@ -133,11 +135,13 @@ void Visita::declararEmpresa() {
     guia_->Escribir(QStringLiteral("txtNombreRepresentante"), QStringLiteral("Agirre Soto, Miren"));
     guia_->Escribir(QStringLiteral("txtFirmaEnCalidadDe"), QStringLiteral("Administradora"));
     guia_->ElegirPestana(QStringLiteral("Pestaña"), 0);
-    for (const char* casilla : {"chkApartado2", "chkApartado3"})
+    for (const char* casilla : {"chkApartado2", "chkApartado3", "chkApartado4", "chkApartado5"})
         guia_->Pulsar(QString::fromLatin1(casilla));
     foto(QStringLiteral("07-general-data-filled"));
     declararDomicilios();
     declararDatos();
+    declararSolicitudes();
+    declararSituacion();
     guia_->Pulsar(QStringLiteral("cmdAceptar"));
 }
 
@@ -176,6 +180,23 @@ void Visita::declararDatos() {
         guia_->Pulsar(QString::fromLatin1(casilla));
     escribir({{"txtDirCorreo", u"tailerra@ibaialde.example"}, {"numMovil", u"600112233"}});
     foto(QStringLiteral("18-section3"));
+    guia_->Pulsar(QStringLiteral("cmdSiguiente"));
+}
+
+void Visita::declararSolicitudes() {
+    for (const char* casilla : {"ChkEX1", "ChkEXIntr1", "ChkBI1", "ChkSO1"})
+        guia_->Pulsar(QString::fromLatin1(casilla));
+    escribir({{"txtNIF", u"E12345674"}, {"txtNombre", u"Lasa anaiak"}});
+    foto(QStringLiteral("19-section4"));
+    guia_->Pulsar(QStringLiteral("cmdSiguiente"));
+}
+
+void Visita::declararSituacion() {
+    // Yes to corporate tax and to the withholdings of wages, no to the rest down to the VAT.
+    for (const int casilla :
+         {2, 3, 6, 8, 10, 12, 14, 16, 17, 20, 22, 26, 27, 29, 32, 34, 38, 40, 42, 44, 46, 56})
+        guia_->Pulsar(QStringLiteral("chk%1").arg(casilla));
+    foto(QStringLiteral("20-section5"));
     guia_->Pulsar(QStringLiteral("cmdInicio"));
 }
 

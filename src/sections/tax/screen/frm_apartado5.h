@@ -1,0 +1,91 @@
+#pragma once
+// Section 5: 28 questions on the tax situation, each with a yes box and a no box.
+
+#include <array>
+#include <vector>
+
+#include "declaration/declaration.h"
+#include "ui/answer_box.h"
+#include "ui/screen.h"
+#include "ui/section_buttons.h"
+
+class QBoxLayout;
+class QGridLayout;
+class QGroupBox;
+class QLabel;
+
+namespace padral {
+
+namespace apartado5 {
+struct Pregunta;
+struct Rotulo;
+enum class Zona;
+}  // namespace apartado5
+
+/// The screen before and since the effective date of 1 January 2015. The later one asks neither
+/// for modules nor for the global base of travel agencies.
+enum class EdicionApartado5 { Hasta2014, Desde2015 };
+
+class frmApartado5 : public Pantalla {
+    Q_OBJECT
+public:
+    /// The form name is "frmApartado5" or "frmApartado5_2015".
+    frmApartado5(const Contexto& contexto, cDeclaraciones& declaracion, EdicionApartado5 edicion);
+
+    void Anadir_captions() override;
+    void Cargar() override;
+    QWidget* FocoInicial() override { return filas_.front().si; }
+
+    /// Leaves for the general data as `cmdInicio` does, for the main window.
+    void IrAInicio();
+
+private:
+    struct FilaPregunta {
+        const apartado5::Pregunta* pregunta;
+        QLabel* etiqueta;
+        QWidget* marco;
+        CasillaRespuesta *si, *no;
+    };
+
+    // Construction, in frm_apartado5_layout.cpp.
+    QLabel* crearRotulo(const apartado5::Rotulo& rotulo, QWidget* padre);
+    QBoxLayout* crearZona(apartado5::Zona zona, QWidget* padre);
+    QGroupBox* crearPanel(std::size_t i);
+    void crearPregunta(const apartado5::Pregunta& pregunta, QGridLayout* rejilla, QWidget* padre);
+    void crearCabecera(QGridLayout* rejilla, QWidget* padre);
+    bool sePregunta(const apartado5::Pregunta& pregunta) const;
+    void igualarAnchos();
+
+    // Answers, in frm_apartado5.cpp.
+    void conectarCasillas();
+    void Refrescar();
+    void presentar(const FilaPregunta& fila);
+    void ActualizarBotones();
+    void pulsar(const FilaPregunta& fila, bool si);
+    void responder(const apartado5::Pregunta& pregunta, bool si);
+    void cerrarRamas(bool si, bool repetida);
+
+    // Leaving, in frm_apartado5_commands.cpp.
+    void conectarBotones();
+    bool aceptado();
+    void siguiente();
+    void anterior();
+    void inicio();
+    void cancelar();
+    void volver();
+
+    cDeclaraciones& declaracion_;
+    cApartado5& apartado_;
+    const EdicionApartado5 edicion_;
+    /// While the boxes are brought in line with the record a click is none.
+    bool refrescando_ = false;
+
+    std::vector<FilaPregunta> filas_;
+    std::array<QGroupBox*, 2> paneles_{};
+    std::vector<QWidget*> cabecerasSi_, cabecerasNo_;
+    /// Captions that are just a text of the catalogue.
+    std::vector<std::pair<QLabel*, int>> etiquetas_;
+    BotonesApartado* botones_;
+};
+
+}  // namespace padral
