@@ -22,6 +22,9 @@ public:
     QSize minimumSizeHint() const override { return sizeHint(); }
 
 protected:
+    /// The whole place of the box answers: the press that brings the focus changes the caption, and
+    /// with it the place that the text takes.
+    bool hitButton(const QPoint& punto) const override { return rect().contains(punto); }
     void focusInEvent(QFocusEvent* evento) override;
     void focusOutEvent(QFocusEvent* evento) override;
     void keyPressEvent(QKeyEvent* evento) override;

@@ -56,6 +56,14 @@ TEST_F(Casilla, SpaceAndMouseAnswer) {
     EXPECT_FALSE(casilla->isChecked());
 }
 
+TEST_F(Casilla, AClickOnTheEndOfTheCaptionAnswersThoughTheArrowIsShorter) {
+    casilla->PonerRotulos(QStringLiteral("(111111)"), QStringLiteral(">"));
+    casilla->resize(casilla->sizeHint());
+    QTest::mouseClick(casilla, Qt::LeftButton, {},
+                      QPoint(casilla->width() - 2, casilla->height() / 2));
+    EXPECT_TRUE(casilla->isChecked());
+}
+
 TEST_F(Casilla, IsAsWideAsTheWidestOfItsCaptions) {
     const int antes = casilla->sizeHint().width();
     casilla->setFocus();
