@@ -57,7 +57,8 @@ inline constexpr Casilla casillasContacto[] = {
               SiHayNumero<&DatosApartado3::numMovil>),
 };
 
-// The long texts are in size 6, so that they end before the mark at their right.
+// The long texts are in size 6 and end before the mark at their right, but for the Basque line of
+// box 262: it ends at X + 176.8, above the frame of the mark.
 inline constexpr Casilla casillasConsentimiento[] = {
     {.numero = u"262",
      .lugarNumero = {2, 54.5F},

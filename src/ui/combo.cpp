@@ -34,6 +34,9 @@ void CajaCombo::changeEvent(QEvent* evento) {
 }
 
 void CajaCombo::keyPressEvent(QKeyEvent* evento) {
+    // Nothing is chosen unseen: without a choice the list opens.
+    const bool flecha = evento->key() == Qt::Key_Up || evento->key() == Qt::Key_Down;
+    if (flecha && currentIndex() < 0) return showPopup();
     if (evento->key() != Qt::Key_Return && evento->key() != Qt::Key_Enter)
         return QComboBox::keyPressEvent(evento);
     if (alPulsarIntro) alPulsarIntro();

@@ -6,7 +6,8 @@
 namespace padral {
 
 /// A list to choose from. Its drop-down is as wide as its widest row; Enter moves on as Tab does;
-/// the wheel scrolls the screen and leaves the choice alone.
+/// the arrows change the choice, and open the list while there is none; the wheel scrolls the
+/// screen and leaves the choice alone.
 class CajaCombo : public QComboBox {
     Q_OBJECT
 public:

@@ -120,5 +120,10 @@ protected:
 };
 
 inline auto LosCuatro() { return ::testing::ValuesIn(DomiciliosEsperados); }
+/// Those that can be marked as equal to the fiscal one.
+inline auto LosMarcables() {
+    return ::testing::Values(DomiciliosEsperados[1], DomiciliosEsperados[2],
+                             DomiciliosEsperados[3]);
+}
 
 }  // namespace padral::pruebas

@@ -7,17 +7,17 @@ namespace {
 
 struct Salida {
     const char16_t *boton, *imagen;
-    Qt::Key espanol;  // access keys
+    Qt::Key espanol, euskera;  // access keys
     const char16_t* pantalla;
     bool valida, dejaOrigen;
 };
 void PrintTo(const Salida& salida, std::ostream* os) { *os << s(salida.boton); }
 
 const Salida Salidas[] = {
-    {u"cmdApartadoSiguiente", u"PicSiguiente", Qt::Key_S, u"FrmApartado3", true, false},
-    {u"cmdApartadoAnterior", u"PicAnterior", Qt::Key_A, u"FrmDatGen", true, true},
-    {u"cmdInicio", u"PicInicio", Qt::Key_I, u"FrmDatGen", true, true},
-    {u"cmdCancelar", u"PicCan", Qt::Key_C, u"FrmDatGen", false, true},
+    {u"cmdApartadoSiguiente", u"PicSiguiente", Qt::Key_S, Qt::Key_N, u"FrmApartado3", true, false},
+    {u"cmdApartadoAnterior", u"PicAnterior", Qt::Key_A, Qt::Key_R, u"FrmDatGen", true, true},
+    {u"cmdInicio", u"PicInicio", Qt::Key_I, Qt::Key_H, u"FrmDatGen", true, true},
+    {u"cmdCancelar", u"PicCan", Qt::Key_C, Qt::Key_Z, u"FrmDatGen", false, true},
 };
 
 class CadaSalida : public PantallaApartado2, public ::testing::WithParamInterface<Salida> {
@@ -106,11 +106,14 @@ TEST_P(CadaSalida, LaImagenYLaTeclaHacenLoMismo) {
     abrir();
     pulsar(q(GetParam().imagen));
     esperaFuera();
-    estado.FormularioOrigen = q(u"FrmDecLista");
-    abrir();
-    tecla(GetParam().espanol, Qt::AltModifier);
-    ASSERT_TRUE(QTest::qWaitFor([&] { return pantallas.Llamadas.size() == 2; }, 5000));
-    esperaFuera();
+    for (const bool vasco : {false, true}) {
+        if (vasco) enEuskera();
+        estado.FormularioOrigen = q(u"FrmDecLista");
+        abrir();
+        tecla(vasco ? GetParam().euskera : GetParam().espanol, Qt::AltModifier);
+        ASSERT_TRUE(QTest::qWaitFor([&] { return pantallas.Llamadas.size() == 2; }, 5000));
+        esperaFuera();
+    }
 }
 INSTANTIATE_TEST_SUITE_P(Salidas, CadaSalida, ::testing::ValuesIn(Salidas));
 

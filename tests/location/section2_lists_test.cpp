@@ -1,5 +1,7 @@
 // Picking street types, provinces and municipalities from their lists.
 
+#include <QScopeGuard>
+
 #include "location/section2_fixture.h"
 
 namespace padral::pruebas {
@@ -159,12 +161,31 @@ TEST_P(Listas, EscapeCierraSinCambiarNada) {
 }
 
 TEST_P(Listas, LaLetraBuscaYLoQueNoEsLetraSeTira) {
+    // However slow the machine, the letters make one search.
+    const auto devolver = qScopeGuard([antes = QApplication::keyboardInputInterval()] {
+        QApplication::setKeyboardInputInterval(antes);
+    });
+    QApplication::setKeyboardInputInterval(600000);
     abrir();
     pulsar(n(u"cmdLstVia"));
     QTest::keyClick(lista(n(u"lstVia")), 'p');
     QTest::keyClick(lista(n(u"lstVia")), '"');
     QTest::keyClick(lista(n(u"lstVia")), 'l');
     EXPECT_EQ(lista(n(u"lstVia"))->currentItem()->text(), q(u"Placeta"));
+}
+
+TEST_P(Listas, EscapeTrasUnaViaDesconocidaVuelveAlCodigo) {
+    b() = enOtraProvincia();
+    abrir();
+    rellenar(n(u"txtSigDom"), q(u"ZZ"));
+    ASSERT_TRUE(visible(n(u"lstVia")));
+    tecla(Qt::Key_Escape);
+    EXPECT_FALSE(visible(n(u"lstVia")));
+    EXPECT_EQ(foco(), n(u"txtSigDom"));
+    EXPECT_EQ(texto(n(u"txtSigDom")) + texto(n(u"txtVia")), QString());
+    EXPECT_EQ(b().SiglasDomicilio + b().DescripcionSiglas, QString());
+    rellenar(n(u"txtSigDom"), q(u"CL"));
+    EXPECT_EQ(b().DescripcionSiglas, q(u"Calle"));
 }
 
 TEST_P(Listas, TrasUnDesconocidoSeEligeDeLaLista) {

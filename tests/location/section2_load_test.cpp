@@ -103,6 +103,35 @@ TEST_P(Carga, LasListasEstanLlenasYOcultas) {
     }
 }
 
+struct ListaEsperada {
+    const char16_t* nombre;
+    const char16_t* filas[3];  // the first ones
+    const char16_t *fila, *clave;
+};
+constexpr ListaEsperada ListasEsperadas[2][3] = {
+    {{u"lstVia", {u"Acceso", u"Alameda", u"Arrabal"}, u"Calle", u"CL"},
+     {u"lstProv", {u"A Coruña", u"Álava", u"Albacete"}, u"Madrid", u"C28"},
+     {u"lstMun", {u"Aldabarri", u"Aranbideta", u"Areizpe"}, u"Garagorta", u"C69"}},
+    {{u"lstVia", {u"Abelbidea", u"Adarra", u"Aintzira"}, u"Kalea", u"CL"},
+     {u"lstProv", {u"A Coruña", u"Alacant", u"Albacete"}, u"Madril", u"C28"},
+     {u"lstMun", {u"Aldabarri", u"Aranbideta", u"Areizpe"}, u"Garagorta", u"C69"}}};
+
+TEST_P(Carga, LasListasVanPorOrdenAlfabeticoConSusClaves) {
+    for (const bool euskera : {false, true}) {
+        if (euskera) enEuskera();
+        abrir();
+        for (const auto& esperada : ListasEsperadas[euskera ? 1 : 0]) {
+            SCOPED_TRACE(s(esperada.nombre));
+            const auto* l = lista(n(esperada.nombre));
+            for (int fila = 0; fila < 3; ++fila)
+                EXPECT_EQ(l->item(fila)->text(), q(esperada.filas[fila]));
+            const auto filas = l->findItems(q(esperada.fila), Qt::MatchExactly);
+            ASSERT_EQ(filas.size(), 1);
+            EXPECT_EQ(filas.front()->data(Qt::UserRole).toString(), q(esperada.clave));
+        }
+    }
+}
+
 TEST_P(Carga, CadaCampoDiceDeQueDomicilioEs) {
     const QString titulos[] = {q(u"Domicilio fiscal"), q(u"Domicilio Social"),
                                q(u"Domicilio de la Actividad"), q(u"Domicilio de notificación")};

@@ -179,9 +179,54 @@ TEST_P(Marcas, UnCodigoEscritoEnElMarcadoNoAbreSuListaApagada) {
     EXPECT_EQ(texto(n(u"numCodMun")), QString());
     EXPECT_NE(foco(), n(u"numCodMun"));
 }
-INSTANTIATE_TEST_SUITE_P(Domicilios, Marcas,
-                         ::testing::Values(DomiciliosEsperados[1], DomiciliosEsperados[2],
-                                           DomiciliosEsperados[3]));
+
+TEST_P(Marcas, UnCodigoConocidoEscritoEnElMarcadoSeTira) {
+    b() = enProvinciaPropia();
+    abrir();
+    pulsar(casilla());
+    rellenar(n(u"numCodMun"), q(u"69"));
+    EXPECT_TRUE(b() == BloqueDireccion{});
+    EXPECT_EQ(texto(n(u"numCodMun")) + texto(n(u"txtMun")), QString());
+    EXPECT_TRUE(bloqueado(n(u"numCodMun")));
+    EXPECT_EQ(marca(), q(u"X"));
+    EXPECT_TRUE(QApplication::focusWidget() && QApplication::focusWidget()->isEnabled());
+    EXPECT_NE(foco(), n(u"numCodMun"));
+    esperaApagado(true);
+}
+
+TEST_P(Marcas, UnCodigoConocidoEscritoEnElMarcadoDejaSalir) {
+    for (const auto* salida : {u"cmdInicio", u"cmdApartadoAnterior", u"cmdApartadoSiguiente"}) {
+        g.Apartado3 = q(u"X");
+        (r.*GetParam().elMismo).clear();
+        b() = enProvinciaPropia();
+        abrir();
+        pulsar(casilla());
+        escribir(n(u"numCodMun"), q(u"69"));
+        pulsar(q(salida));
+        EXPECT_EQ(pantallas.Tomar().size(), 2) << s(salida);
+        EXPECT_TRUE(b() == BloqueDireccion{});
+        EXPECT_EQ(r.TablaAuxiliar().*GetParam().elMismo, q(u"X"));
+    }
+}
+
+TEST_P(Marcas, VaciarElUltimoCampoFiscalSigueEnUnCampoEncendido) {
+    for (const bool marcado : {false, true}) {
+        r.Fis = {};
+        r.Fis.Telefono = 943111222;
+        b() = marcado ? BloqueDireccion{} : completa();
+        r.*GetParam().elMismo = marcado ? q(u"X") : QString();
+        abrirAceptado();
+        rellenar(q(u"numTelFis"), QString());
+        EXPECT_TRUE(r.Fis == BloqueDireccion{});
+        EXPECT_EQ(marca(), QString());
+        EXPECT_TRUE(b() == (marcado ? BloqueDireccion{} : completa()));
+        EXPECT_TRUE(r.Modificaciones);
+        EXPECT_FALSE(habilitado(q(u"chkDSocElMismo"))) << "the next stop is off";
+        EXPECT_EQ(foco(), q(u"txtSigDomSoc"));
+        EXPECT_TRUE(habilitado(q(u"txtSigDomSoc")));
+    }
+}
+INSTANTIATE_TEST_SUITE_P(Domicilios, Marcas, LosMarcables());
 
 using TresMarcas = PantallaApartado2;
 

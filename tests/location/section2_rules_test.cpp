@@ -1,5 +1,7 @@
 // The eight rules of a domicile, in each of the four.
 
+#include "sections/location/section2_rules.h"
+
 #include "location/section2_fixture.h"
 
 namespace padral::pruebas {
@@ -142,7 +144,42 @@ TEST_P(Reglas, DicenLoSuyoYLlevanAlCampo) {
 INSTANTIATE_TEST_SUITE_P(Domicilios, Reglas,
                          ::testing::Combine(LosCuatro(), ::testing::ValuesIn(Casos)));
 
+struct ReglaEsperada {
+    int texto, titulo;
+    CampoDireccion foco;
+};
+constexpr ReglaEsperada ReglasEsperadas[] = {
+    {124, 125, CampoDireccion::Siglas},    {126, 115, CampoDireccion::Calle},
+    {127, 117, CampoDireccion::Provincia}, {128, 129, CampoDireccion::CodigoMunicipio},
+    {130, 119, CampoDireccion::Municipio}, {120, 121, CampoDireccion::Postal},
+    {122, 123, CampoDireccion::Postal},    {131, 121, CampoDireccion::Postal}};
+
+TEST(TablaDeReglas, DelUnoAlOcho) {
+    const auto reglas = ReglasDireccion();
+    ASSERT_EQ(reglas.size(), std::size(ReglasEsperadas));
+    for (std::size_t i = 0; i < reglas.size(); ++i) {
+        EXPECT_EQ(reglas[i].numero, static_cast<int>(i) + 1);
+        EXPECT_EQ(reglas[i].texto, ReglasEsperadas[i].texto) << "rule " << i + 1;
+        EXPECT_EQ(reglas[i].titulo, ReglasEsperadas[i].titulo) << "rule " << i + 1;
+        EXPECT_EQ(reglas[i].foco, ReglasEsperadas[i].foco) << "rule " << i + 1;
+    }
+}
+
 using OrdenDeReglas = EnCadaDomicilio;
+
+// The code of the first provinces has one figure, and so their postal codes have four.
+TEST_P(OrdenDeReglas, ElPostalMilDeLaProvinciaUno) {
+    b() = enOtraProvincia();
+    b().CodigoProvincia = 1;
+    b().NombreProvincia = q(u"Álava");
+    b().CodigoPostal = 1000;
+    abrir();
+    EXPECT_EQ(texto(n(Postal)), q(u"01000"));
+    esperaAviso(131, 121);
+    pulsar(q(u"cmdInicio"));
+    avisos.Verificar();
+    EXPECT_EQ(foco(), n(Postal));
+}
 
 TEST_P(OrdenDeReglas, HablaSoloLaPrimera) {
     b().Telefono = 1;

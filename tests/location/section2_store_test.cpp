@@ -72,8 +72,9 @@ TEST_P(ConAlmacenDeVuelta, EnOtraProvinciaVuelveTodo) {
     EXPECT_EQ(texto(n(u"txtVia")), q(u"Plaza"));
 }
 
-TEST_P(ConAlmacenDeVuelta, LaMarcaVuelve) {
-    if (fiscal()) return;
+using MarcaDeVuelta = ConAlmacenDeVuelta;
+
+TEST_P(MarcaDeVuelta, LaMarcaVuelve) {
     r.Fis = enProvinciaPropia();
     abrir();
     pulsar(q(GetParam().marca));
@@ -81,6 +82,7 @@ TEST_P(ConAlmacenDeVuelta, LaMarcaVuelve) {
     EXPECT_TRUE(alAlmacenYVuelta(otra) == BloqueDireccion{});
     EXPECT_EQ(otra.d.apartado2.*GetParam().elMismo, q(u"X"));
 }
+INSTANTIATE_TEST_SUITE_P(Domicilios, MarcaDeVuelta, LosMarcables());
 
 TEST_P(ConAlmacenDeVuelta, ConPostalCeroLaProvinciaQueda) {
     b() = enOtraProvincia();

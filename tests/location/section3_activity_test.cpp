@@ -162,6 +162,30 @@ TEST_F(Actividad, TrasElCodigoNadaRespondeHastaElSiguienteRefresco) {
     EXPECT_EQ(r.ResidenteKelmaria.recortado(), q(u"N"));
 }
 
+class CasillaTrasElCodigo : public PantallaApartado3,
+                            public ::testing::WithParamInterface<std::pair<const char16_t*, bool>> {
+};
+
+TEST_P(CasillaTrasElCodigo, DespiertaLasListasSiMuestraElRegistro) {
+    const auto& [casilla, despierta] = GetParam();
+    abrirValida();
+    rellenar(u"txtDescripcionActividad", u"1.3333");
+    pulsar(casilla);
+    ASSERT_TRUE(marcada(casilla));
+    elegir(u"cmbDescFormaJuridica", u"SOCIEDAD LIMITADA - B");
+    EXPECT_EQ(r.CodigoFormaJuridica, despierta ? 6 : 0);
+}
+INSTANTIATE_TEST_SUITE_P(
+    Filas, CasillaTrasElCodigo,
+    ::testing::Values(std::pair(u"chkPostal", false), std::pair(u"chkElectronico", false),
+                      std::pair(u"chkSocPat", false), std::pair(u"chkActVenMov", false),
+                      std::pair(u"chkCastellano", true), std::pair(u"chkEuskera", true),
+                      std::pair(u"chkCorreoAlta", true), std::pair(u"chkCorreoBaja", true),
+                      std::pair(u"chkFaxAlta", true), std::pair(u"chkFaxBaja", true),
+                      std::pair(u"chkTelMovilAlta", true), std::pair(u"chkTelMovilBaja", true),
+                      std::pair(u"chkTelFijoAlta", true), std::pair(u"chkTelFijoBaja", true),
+                      std::pair(u"chkConsentimiento", true), std::pair(u"chkRevocacion", true)));
+
 TEST_F(Actividad, TrasElCodigoAbrirLaListaLaDespierta) {
     abrirValida();
     rellenar(u"txtDescripcionActividad", u"1.3333");

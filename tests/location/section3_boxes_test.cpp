@@ -99,6 +99,36 @@ TEST_F(PantallaApartado3, MarcasSueltas) {
     }
 }
 
+TEST_F(PantallaApartado3, MostrarElRegistroNoQuitaLasMarcasSueltas) {
+    r.SocPat = r.ActVenMov = q(u"X");
+    abrirValida();
+    r.SocPat = r.ActVenMov = QString();
+    static_cast<FrmApartado3*>(pantalla.get())->PresentarDatos();
+    EXPECT_TRUE(marcada(u"chkSocPat"));
+    EXPECT_TRUE(marcada(u"chkActVenMov"));
+    EXPECT_EQ(r.SocPat + r.ActVenMov, QString());
+}
+
+TEST_F(PantallaApartado3, IntroEnUnaCasillaSigueComoElTabulador) {
+    r.Correo = r.Fax = r.Movil = r.Fijo = q(u"A");
+    abrirValida();
+    const auto casillas = pantalla->findChildren<QCheckBox*>();
+    ASSERT_EQ(casillas.size(), 16);
+    for (const auto* casilla : casillas) {
+        const QString nombre = casilla->objectName();
+        SCOPED_TRACE(nombre.toStdString());
+        ConPantalla::enfocar(nombre);
+        tecla(Qt::Key_Tab);
+        const QString siguiente = foco();
+        ASSERT_NE(siguiente, nombre);
+        for (const auto intro : {Qt::Key_Return, Qt::Key_Enter}) {
+            ConPantalla::enfocar(nombre);
+            sinCambios([&] { tecla(intro); });
+            EXPECT_EQ(foco(), siguiente);
+        }
+    }
+}
+
 TEST_F(PantallaApartado3, LaLeyendaPulsaSuCasilla) {
     abrirValida();
     for (const auto* nombre : {u"lblSocPat", u"lblActRevMov", u"lblConsentimiento", u"lblNo"})

@@ -56,7 +56,10 @@ INSTANTIATE_TEST_SUITE_P(
         Direccion{u"ana,lasa@kelmaria.eus", false}, Direccion{u"ana;eus@kelmaria.eus", false},
         Direccion{u"ñaki@kelmaria.eus", false}, Direccion{u"ÑAKI@KELMARIA.EUS", false},
         Direccion{u"josé@kelmaria.eus", false}, Direccion{u"ana@kelmaria.eus\t!", false},
-        Direccion{u"\"ana\"@kelmaria.eus", false}, Direccion{u"ana@kelmaria.eu5º", false}));
+        // The sign of the kelvin becomes a small k, the dotted capital I a small i.
+        Direccion{u"\u212Aoldo@kelmaria.eus", false}, Direccion{u"ana@\u212Aelmaria.eus", false},
+        Direccion{u"\u0130on@kelmaria.eus", false}, Direccion{u"\"ana\"@kelmaria.eus", false},
+        Direccion{u"ana@kelmaria.eu5º", false}));
 
 TEST(DireccionLarga, NoHayLimite) {
     const QString nombre(10000, u'a');

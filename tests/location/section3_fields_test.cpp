@@ -105,11 +105,57 @@ TEST_F(Campos3, FechaDeInicioVaciada) {
     EXPECT_EQ(fecha(u"mskFechaInicio"), q(u"__/__/____"));
 }
 
+TEST_F(Campos3, FechaDeInicioDeCerosEsNinguna) {
+    for (const bool euskera : {false, true}) {
+        if (euskera) enEuskera();
+        const QString vacia = euskera ? q(u"____/__/__") : q(u"__/__/____");
+        g.Causa1 = q(u"I");
+        g.FECHAVIGOR = r.DatosApartado3::FechaInicio = 20150310;
+        abrirValida();
+        rellenar(u"mskFechaInicio", u"00000000");
+        EXPECT_EQ(r.FechaInicio(), 0);
+        EXPECT_EQ(g.FECHAVIGOR, 0);
+        EXPECT_TRUE(r.Modificaciones);
+        EXPECT_EQ(fecha(u"mskFechaInicio"), vacia);
+        r.Modificaciones = false;
+        g.FECHAVIGOR = 20160101;
+        sinCambios([&] { rellenar(u"mskFechaInicio", u"00000000"); });
+        EXPECT_EQ(g.FECHAVIGOR, 20160101);
+        EXPECT_EQ(fecha(u"mskFechaInicio"), vacia);
+    }
+}
+
+TEST_F(Campos3, ElMismoValorSeMuestraComoEsta) {
+    r.Fax = q(u"A");
+    r.PorcenDeduccion = 40;
+    abrirValida();
+    const struct {
+        const char16_t *campo, *tecleado, *mostrado;
+    } casos[] = {{u"numPorcenIVA", u"040", u"40"},
+                 {u"mskFechaInicio", u"00000000", u"__/__/____"},
+                 {u"mskFechaCierre", u"0000", u"__/__"},
+                 {u"numFax", u"000", u""}};
+    for (const auto& caso : casos) {
+        sinCambios([&] { rellenar(caso.campo, caso.tecleado); });
+        EXPECT_EQ(fecha(caso.campo), q(caso.mostrado)) << s(caso.campo);
+    }
+}
+
+TEST_F(Campos3, FechaDeCierreDeCerosEsNinguna) {
+    r.FechaCierre = 1231;
+    abrirValida();
+    rellenar(u"mskFechaCierre", u"0000");
+    EXPECT_EQ(r.FechaCierre, 0);
+    EXPECT_TRUE(r.Modificaciones);
+    EXPECT_EQ(fecha(u"mskFechaCierre"), q(u"__/__"));
+}
+
 TEST_F(Campos3, FechaDeInicioRechazada) {
     g.FECHAVIGOR = 20140101;
     r.DatosApartado3::FechaInicio = 20140101;
     abrirValida();
-    for (const auto* valor : {u"01012100", u"31042015", u"29021900", u"1", u"0101", u"01010999"}) {
+    for (const auto* valor : {u"01012100", u"31042015", u"29021900", u"1", u"0101", u"01010999",
+                              u"0000", u"0000000", u"00002015"}) {
         esperaRechazo(u"mskFechaInicio", valor,
                       q(u"La fecha de inicio debe ser anterior a 31/12/2099."),
                       q(u"Fecha no válida"));
@@ -215,6 +261,29 @@ TEST_F(Campos3, LoPegadoSeCortaALoQueCabe) {
         pegar(nombre, cifras);
         EXPECT_EQ(texto(nombre), QString(ancho, u'7')) << s(nombre);
     }
+}
+
+TEST_F(Campos3, LoPegadoEnPorcentajeYFechas) {
+    const QString letras(10000, u'a'), cifras(10000, u'1');
+    const struct {
+        const char16_t *campo, *vacio, *lleno;
+    } casos[] = {{u"numPorcenIVA", u"", u"111"},
+                 {u"mskFechaInicio", u"__/__/____", u"11/11/1111"},
+                 {u"mskFechaCierre", u"__/__", u"11/11"}};
+    for (const auto& caso : casos) {
+        SCOPED_TRACE(s(caso.campo));
+        abrirValida();
+        pegar(caso.campo, letras);
+        EXPECT_EQ(fecha(caso.campo), q(caso.vacio));
+        pegar(caso.campo, cifras);
+        EXPECT_EQ(fecha(caso.campo), q(caso.lleno));
+        if (q(caso.campo) == u"numPorcenIVA") esperaAviso(155, 156);
+        tecla(Qt::Key_Tab);
+        avisos.Verificar();
+        EXPECT_EQ(fecha(caso.campo), q(caso.lleno));
+    }
+    EXPECT_EQ(r.FechaInicio(), 11111111);
+    EXPECT_EQ(r.FechaCierre, 1111);
 }
 
 }  // namespace

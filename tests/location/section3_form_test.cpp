@@ -95,11 +95,21 @@ TEST_F(FormaJuridica, LasTeclasDeLaDescripcion) {
     otraForma(u"COFRADIA");
     abrirValida();
     escribir(u"txtOtros", q(u"ab#\"'[]c"));
-    tecla(Qt::Key_Y, Qt::ControlModifier);
     EXPECT_EQ(texto(u"txtOtros"), q(u"ABC"));
     tecla(Qt::Key_Return);
     EXPECT_EQ(foco(), q(u"txtAnagrama"));
     esperaForma(90, u"ABC");
+}
+
+TEST_F(FormaJuridica, LasFlechasSinEleccionAbrenLaLista) {
+    for (const auto flecha : {Qt::Key_Down, Qt::Key_Up}) {
+        abrirValida();
+        enfocar(u"cmbDescFormaJuridica");
+        sinCambios([&] { tecla(flecha); });
+        EXPECT_TRUE(c<QComboBox>(u"cmbDescFormaJuridica")->view()->isVisible());
+        EXPECT_TRUE(visible(u"cmbDescFormaJuridica"));
+        c<QComboBox>(u"cmbDescFormaJuridica")->hidePopup();
+    }
 }
 
 TEST_F(FormaJuridica, IntroSinCambioSigue) {

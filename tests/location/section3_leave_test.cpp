@@ -143,13 +143,55 @@ TEST_F(PantallaApartado3, CancelarDevuelveLoAceptadoYVaAlApartadoAnterior) {
             pulsar(u"chkFaxAlta");
             elegir(u"cmbDescFormaJuridica", u"OTROS");
             EXPECT_FALSE(datos() == antes);
+            const int esperas = pantallas.EsperasTotales;
             pulsar(nombre);
+            EXPECT_EQ(pantallas.EsperasTotales, esperas + 1);
+            EXPECT_FALSE(pantallas.EnEspera());
             EXPECT_EQ(pantallas.Tomar(), salida(anterior));
             EXPECT_TRUE(datos() == antes);
             EXPECT_FALSE(r.Modificaciones);
             EXPECT_EQ(estado.FormularioOrigen, pantalla->objectName());
             EXPECT_FALSE(estado.ModificacionesPendientes);
         }
+}
+
+TEST_F(PantallaApartado3, CancelarDevuelveLaFechaDeEfecto) {
+    const struct {
+        const char16_t* causa1;
+        qint32 inicio, modificacion, cese, efecto;
+        const char16_t* edicion;
+    } casos[] = {{u"I", 20140310, 0, 0, 20140310, u"FrmApartado3"},
+                 {u"I", 20160310, 0, 0, 20160310, u"FrmApartado3_2015"},
+                 {u"P", 0, 0, 0, 0, u"FrmApartado3"},
+                 {u"M", 0, 20141231, 0, 20141231, u"FrmApartado3"},
+                 {u"M", 20100101, 20160101, 0, 20160101, u"FrmApartado3_2015"},
+                 {u"C", 20100101, 0, 20160630, 20160630, u"FrmApartado3_2015"},
+                 {u"C", 20160101, 0, 20140630, 20140630, u"FrmApartado3"}};
+    for (const auto& caso : casos) {
+        SCOPED_TRACE(s(caso.causa1));
+        g.Causa1 = q(caso.causa1);
+        g.FechaModificacion(caso.modificacion);
+        d.apartado6.FECHACESE = caso.cese;
+        r.DatosApartado3::FechaInicio = caso.inicio;
+        g.FECHAVIGOR = caso.efecto;
+        for (const auto* tecleada : {u"15062014", u"15062015", u""}) {
+            abrirValida();
+            rellenar(u"mskFechaInicio", tecleada);
+            pulsar(u"cmdCancelar");
+            EXPECT_EQ(r.FechaInicio(), caso.inicio);
+            EXPECT_EQ(g.FECHAVIGOR, caso.efecto) << s(tecleada);
+            EXPECT_EQ(d.PantallaApartado(3), q(caso.edicion));
+        }
+    }
+}
+
+TEST_F(PantallaApartado3, CancelarSinCambiarElInicioDejaLaFechaDeEfecto) {
+    r.DatosApartado3::FechaInicio = 20140310;
+    abrirValida();
+    g.FECHAVIGOR = 20160101;
+    rellenar(u"txtAnagrama", u"ABC");
+    pulsar(u"cmdCancelar");
+    EXPECT_EQ(g.FECHAVIGOR, 20160101);
 }
 
 TEST_F(PantallaApartado3, CancelarNoCompruebaNada) {

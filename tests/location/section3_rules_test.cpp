@@ -149,11 +149,17 @@ TEST(OrdenDeReglas, DelUnoAlSiete) {
 
 TEST_F(PantallaApartado3, SoloHablaLaPrimeraRota) {
     valida();
-    ponerCorreo(r, u"A@B");
+    sinEpigrafe(u"");
+    ponerCorreo(r, u"");
     r.Fax = r.Movil = r.Fijo = q(u"A");
     abrir();
+    // Without a heading nothing is chosen, whatever its code.
+    c<QComboBox>(u"cmbEpigrafe")->setCurrentIndex(-1);
     r.Modificaciones = true;
     const std::pair<int, std::function<void()>> turnos[] = {
+        {699, [] {}},  // showing the record chooses the last row
+        {696, [this] { r.ListaEpigrafe = q(u"AFINADOR"); }},
+        {843, [this] { r.DirCorreo = q(u"A@B"); }},
         {868, [this] { r.DirCorreo = q(u"A@B.C"); }},
         {844, [this] { r.numFax = 1; }},
         {868, [this] { r.numMovil = 1; }},

@@ -58,9 +58,33 @@ TEST_F(Combo, EnterActsAndMovesOn) {
     }
 }
 
-TEST_F(Combo, ArrowsChooseAndTheWheelDoesNot) {
+TEST_F(Combo, ArrowsWithoutAChoiceOpenTheList) {
+    for (const auto tecla : {Qt::Key_Down, Qt::Key_Up}) {
+        combo->setCurrentIndex(-1);
+        int elegidas = 0;
+        const auto cuenta =
+            QObject::connect(combo, &QComboBox::activated, combo, [&elegidas] { ++elegidas; });
+        QTest::keyClick(combo, tecla);
+        EXPECT_TRUE(combo->view()->isVisible());
+        EXPECT_EQ(combo->currentIndex(), -1);
+        EXPECT_EQ(elegidas, 0);
+        combo->view()->setCurrentIndex(combo->model()->index(1, 0));
+        QTest::keyClick(combo->view(), Qt::Key_Return);
+        EXPECT_EQ(combo->currentIndex(), 1);
+        EXPECT_EQ(elegidas, 1);
+        EXPECT_FALSE(combo->view()->isVisible());
+        QObject::disconnect(cuenta);
+    }
+}
+
+TEST_F(Combo, ArrowsChooseFromAChoiceAndTheWheelDoesNot) {
     QTest::keyClick(combo, Qt::Key_Down);
     EXPECT_EQ(combo->currentIndex(), 1);
+    QTest::keyClick(combo, Qt::Key_Up);
+    EXPECT_EQ(combo->currentIndex(), 0);
+    QTest::keyClick(combo, Qt::Key_Down);
+    EXPECT_EQ(combo->currentIndex(), 1);
+    EXPECT_FALSE(combo->view()->isVisible());
     QWheelEvent rueda(QPointF(5, 5), combo->mapToGlobal(QPointF(5, 5)), QPoint(), QPoint(0, 120),
                       Qt::NoButton, Qt::NoModifier, Qt::NoScrollPhase, false);
     QCoreApplication::sendEvent(combo, &rueda);

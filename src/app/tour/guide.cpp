@@ -80,6 +80,8 @@ void Guia::ElegirEnCombo(const QString& nombre, const QString& comienzo) {
     const int indice = combo->findText(comienzo, Qt::MatchStartsWith);
     if (indice < 0) throw GuiaPerdida("no item " + comienzo.toStdString());
     combo->setFocus(Qt::MouseFocusReason);
+    // The arrows only open a list without a choice.
+    if (combo->currentIndex() < 0) QTest::keyClick(combo, Qt::Key_Home);
     while (combo->currentIndex() < indice) QTest::keyClick(combo, Qt::Key_Down);
     while (combo->currentIndex() > indice) QTest::keyClick(combo, Qt::Key_Up);
     QTest::keyClick(combo, Qt::Key_Return);

@@ -11,6 +11,12 @@ using A = Apartado3Escrito;
 
 bool en(const Letra& letra, QStringView valor) { return QString(letra).trimmed() == valor; }
 bool vacia(const Letra& letra) { return QString(letra).trimmed().isEmpty(); }
+/// Only the letters of addresses: others have small ones among these, such as the kelvin's sign.
+QString enMinusculas(QString texto) {
+    for (QChar& c : texto)
+        if (c >= u'A' && c <= u'Z') c = QChar(static_cast<char16_t>(c.unicode() + (u'a' - u'A')));
+    return texto;
+}
 bool alfanumerico(QChar c) { return (c >= u'a' && c <= u'z') || (c >= u'0' && c <= u'9'); }
 
 /// A missing mobile number shows the text of the address too.
@@ -43,7 +49,7 @@ constexpr std::array<ReglaApartado3, 7> Reglas = {{
 }  // namespace
 
 bool Validar_Email(const QString& texto) {
-    const QString direccion = texto.trimmed().toLower();
+    const QString direccion = enMinusculas(texto.trimmed());
     const qsizetype ultimo = direccion.size() - 1;
     qsizetype arroba = -1, punto = -1;
     bool trasSigno = false;

@@ -160,6 +160,12 @@ bool PanelDireccion::dejarNombreProvincia() {
 bool PanelDireccion::dejarMunicipio() {
     const qint32 codigo = entradas_[n(Dato::CodMunicipio)].numero->Valor();
     if (codigo == bloque_.CodigoMunicipio) return true;
+    // An address that is switched off stays empty: what was typed into the field, which locks only
+    // when the record is shown next, is dropped.
+    if (!listas_[n(Catalogo::Municipios)]->isEnabled()) {
+        alRefrescar();
+        return true;
+    }
     bloque_.NombreMunicipio = buscar(Catalogo::Municipios, codigo);
     const bool conocido = !bloque_.NombreMunicipio.isEmpty();
     bloque_.CodigoMunicipio = conocido ? codigo : 0;

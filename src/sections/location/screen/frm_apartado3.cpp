@@ -40,6 +40,10 @@ bool FrmApartado3::eventFilter(QObject* objeto, QEvent* evento) {
             pulsarIntro(combo);
             return true;
         }
+    if (qobject_cast<QCheckBox*>(objeto) && esIntro(evento)) {
+        focusNextPrevChild(true);
+        return true;
+    }
     return Pantalla::eventFilter(objeto, evento);
 }
 

@@ -10,6 +10,7 @@ namespace padral {
 void FrmApartado3::conectarCasillas() {
     for (std::size_t i = 0; i < parejas_.size(); ++i)
         parejas_[i]->AlPulsar(guardia_, [this, i](MarcaPareja marca) { pulsarPareja(i, marca); });
+    for (auto* caja : findChildren<QCheckBox*>()) caja->installEventFilter(this);
     const auto marca = [this](QCheckBox* caja, QString DatosApartado3::*miembro) {
         guardia_.Orden(
             caja, [this, caja, miembro] { pulsarMarca(caja, miembro); },

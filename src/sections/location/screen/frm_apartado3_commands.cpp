@@ -1,5 +1,6 @@
 // Leaving section 3.
 
+#include "declaration/section_boxes.h"
 #include "sections/location/screen/frm_apartado3.h"
 #include "sections/location/screen/frm_apartado3_tables.h"
 
@@ -49,8 +50,12 @@ void FrmApartado3::inicio() {
 
 void FrmApartado3::cancelar() {
     if (apartado_.Modificaciones) {
+        const qint32 escrita = apartado_.FechaInicio();
         apartado_.Modificaciones = false;
         apartado_.ObtenerDatosTablaAuxiliar();
+        // The date that is given up has set the effective date, which decides the next edition.
+        if (apartado_.FechaInicio() != escrita)
+            declaracion_.general.FECHAVIGOR = CalcularFechaVigor(declaracion_);
     }
     volver();
 }

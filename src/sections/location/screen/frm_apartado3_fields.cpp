@@ -1,5 +1,7 @@
 // Leaving the plain fields of section 3.
 
+#include <algorithm>
+
 #include "sections/location/screen/frm_apartado3.h"
 #include "sections/location/screen/frm_apartado3_tables.h"
 
@@ -10,12 +12,21 @@ namespace {
 constexpr int TituloFecha = 151;
 constexpr qint32 PorcentajeMaximo = 100;
 
+/// A date typed whole of zeros: it is none, like the empty one.
+bool esCero(const QString& texto) {
+    return std::ranges::all_of(texto, [](QChar c) { return c == u'0' || c == u'/'; });
+}
+
 }  // namespace
 
 void FrmApartado3::registrarNumero(CajaNum* campo, qint32 DatosApartado3::*miembro) {
     guardia_.Registrar(campo, [this, campo, miembro] {
-        if (campo->Valor() == apartado_.*miembro) return true;
-        apartado_.*miembro = campo->Valor();
+        const qint32 valor = campo->Valor();
+        if (valor == apartado_.*miembro) {
+            campo->PresentarSinCero(valor);
+            return true;
+        }
+        apartado_.*miembro = valor;
         cambiado();
         return true;
     });
@@ -43,7 +54,10 @@ void FrmApartado3::conectarCampos() {
 
 bool FrmApartado3::dejarPorcentaje() {
     const qint32 porcentaje = numPorcenIVA_->Valor();
-    if (porcentaje == apartado_.PorcenDeduccion) return true;
+    if (porcentaje == apartado_.PorcenDeduccion) {
+        numPorcenIVA_->Presentar(porcentaje);
+        return true;
+    }
     if (porcentaje > PorcentajeMaximo) {
         estado_.Avisar(155, 156);
         return false;
@@ -55,7 +69,9 @@ bool FrmApartado3::dejarPorcentaje() {
 
 bool FrmApartado3::dejarFechaInicio() {
     auto& fechas = estado_.fecha;
-    const qint32 fecha = fechas.StringToLong(mskFechaInicio_->Texto());
+    const QString texto = mskFechaInicio_->Texto();
+    const qint32 fecha = esCero(texto) ? 0 : fechas.StringToLong(texto);
+    if (fecha == 0) mskFechaInicio_->Presentar(fechas.LongToString(0));
     if (fecha == apartado_.FechaInicio()) return true;
     if (fecha == 0) {
         apartado_.FechaInicio(0);
@@ -78,6 +94,7 @@ bool FrmApartado3::dejarFechaCierre() {
     const qint32 fecha = fechas.StringToLongMMDD(texto);
     // A date that is begun reads as 0, too.
     const bool aMedias = texto != fechas.FecVaciaMMDD() && texto.contains(u'_');
+    if (!aMedias && fecha == 0) mskFechaCierre_->Presentar(fechas.FecVaciaMMDD());
     if (!aMedias && fecha == apartado_.FechaCierre) return true;
     if (!aMedias && fecha == 0) {
         apartado_.FechaCierre = 0;
