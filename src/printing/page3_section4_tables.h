@@ -117,20 +117,25 @@ inline constexpr Rotulo negritasApartado4[] = {
     Comun(168, 18, u"BAJA"),
     Par(3, 81, u"SOZIETATE ZERGA", u"SOCIEDADES"),
 };
+/// The short Spanish word stands above its number, the long Basque one would leave the form there.
+inline constexpr Mm XKanpo = 172, XExclusion = 176;
 inline constexpr Rotulo rotulosApartado4[] = {
     Par(3, 5, u"JARRI 'X' BEHAR DIREN LAUKIETAN",
         u"MARQUE CON UNA 'X' LAS CASILLAS QUE CORRESPONDAN"),
     Par(3, 22, u"P.F.E.Z.", u"I.R.P.F."),
     Subrayado(Par(136, 25, u"AUKERATZEA", u"OPCIÓN")),
     Subrayado(Par(154, 25, u"ATZERA EGITEA", u"REVOCACIÓN")),
-    Subrayado(Par(172, 25, u"KANPO GERATZEA", u"EXCLUSIÓN")),
+    Subrayado(Eus(XKanpo, 25, u"KANPO GERATZEA")),
+    Subrayado(Cas(XExclusion, 25, u"EXCLUSIÓN")),
     Subrayado(Par(136, 33, u"AUKERATZEA", u"OPCIÓN")),
     Subrayado(Par(154, 33, u"UKO EGITEA", u"RENUNCIA")),
-    Subrayado(Par(172, 33, u"KANPO GERATZEA", u"EXCLUSIÓN")),
+    Subrayado(Eus(XKanpo, 33, u"KANPO GERATZEA")),
+    Subrayado(Cas(XExclusion, 33, u"EXCLUSIÓN")),
     Par(3, 35, u"B.E.Z.", u"I.V.A."),
     Subrayado(Par(136, 47, u"UKO EGITEA", u"RENUNCIA")),
     Subrayado(Par(154, 47, u"ATZERA EGITEA", u"REVOCACIÓN")),
-    Subrayado(Par(172, 47, u"KANPO GERATZEA", u"EXCLUSIÓN")),
+    Subrayado(Eus(XKanpo, 47, u"KANPO GERATZEA")),
+    Subrayado(Cas(XExclusion, 47, u"EXCLUSIÓN")),
     Par(29, 73, u"- Entitatearen IFZ", u"- N.I.F. entidad"),
     Par(79, 73, u"- Entitatearen izena", u"- Nombre entidad"),
 };

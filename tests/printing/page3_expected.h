@@ -93,12 +93,10 @@ inline const FilaVersion rotulosApartado4[] = {
     {3, 22, 0, 7, false, false, 0, u"P.F.E.Z.", u"I.R.P.F."},
     {136, 25, 0, 7, false, true, 0, u"AUKERATZEA", u"OPCIÓN"},
     {154, 25, 0, 7, false, true, 0, u"ATZERA EGITEA", u"REVOCACIÓN"},
-    {172, 25, 0, 7, false, true, 0, u"KANPO GERATZEA", u"EXCLUSIÓN"},
     {13, 28.5F, 0, 7, false, false, 136, u"- PFEZren zuzeneko zenbatespen erraztua",
      u"- Estimación directa simplificada del I.R.P.F"},
     {136, 33, 0, 7, false, true, 0, u"AUKERATZEA", u"OPCIÓN"},
     {154, 33, 0, 7, false, true, 0, u"UKO EGITEA", u"RENUNCIA"},
-    {172, 33, 0, 7, false, true, 0, u"KANPO GERATZEA", u"EXCLUSIÓN"},
     {3, 35, 0, 7, false, false, 0, u"B.E.Z.", u"I.V.A."},
     {3, 38, 0, 7, false, false, 136, u"- Kutxa irizpidearen araubide berezia",
      u"- Régimen especial del criterio de caja"},
@@ -109,7 +107,6 @@ inline const FilaVersion rotulosApartado4[] = {
      u"cuotas repercutidas de las declaraciones del IVA."},
     {136, 47, 0, 7, false, true, 0, u"UKO EGITEA", u"RENUNCIA"},
     {154, 47, 0, 7, false, true, 0, u"ATZERA EGITEA", u"REVOCACIÓN"},
-    {172, 47, 0, 7, false, true, 0, u"KANPO GERATZEA", u"EXCLUSIÓN"},
     {3, 51, 0, 7, false, false, 136,
      u"Nekazaritza, abeltzaintza eta arrantzaren erregimen berezia BEZean",
      u"Régimen especial de la Agricultura, Ganadería y Pesca en el I.V.A"},
@@ -143,6 +140,16 @@ inline std::vector<FilaTexto> TextosFila80(Version version) {
              u"Opción al Régimen especial de Bienes Usados, Arte, etc.: Margen de Beneficio global",
              false, 140},
             {140, 64, 0, 7, false, false, u"OPCIÓN"}};
+}
+
+/// The heading of the third column, likewise.
+inline std::vector<FilaTexto> TextosExclusion(Version version) {
+    std::vector<FilaTexto> textos;
+    for (const float y : {25.0F, 33.0F, 47.0F})
+        textos.push_back(version == Euskera
+                             ? FilaTexto{172, y, 0, 7, false, false, u"KANPO GERATZEA", true}
+                             : FilaTexto{176, y, 0, 7, false, false, u"EXCLUSIÓN", true});
+    return textos;
 }
 
 /// The first caption, before 2009 and from then on.
@@ -185,6 +192,7 @@ inline BloqueEsperado Apartado4Esperado(Version version, bool desde2009) {
     }
     for (const auto& r : rotulosApartado4) b.textos.push_back(EnVersion(r, version));
     for (const auto& t : TextosFila80(version)) b.textos.push_back(t);
+    for (const auto& t : TextosExclusion(version)) b.textos.push_back(t);
     b.textos.push_back(EnVersion(rotulosFechados[desde2009 ? 1 : 0], version));
     return b;
 }

@@ -70,11 +70,13 @@ class CadaCuestion : public testing::TestWithParam<FilaCuestion> {};
 INSTANTIATE_TEST_SUITE_P(Apartado5, CadaCuestion, testing::ValuesIn(cuestiones));
 
 TEST_P(CadaCuestion, MarcaSuColumna) {
-    for (const auto& [letra, x] : {std::pair(u"S", 176.0F), std::pair(u"N", 187.0F)}) {
-        ImpresionHoja3 impresion;
-        impresion.apartado5.*GetParam().propiedad = QString::fromUtf16(letra);
-        impresion.EsperaSolo(ValorEsperado(YApartado5, x, GetParam().yMarca, cruz));
-    }
+    for (const auto* idioma : letrasVersion)
+        for (const auto& [letra, x] : {std::pair(u"S", 176.0F), std::pair(u"N", 187.0F)}) {
+            ImpresionHoja3 impresion;
+            impresion.Idioma(idioma);
+            impresion.apartado5.*GetParam().propiedad = QString::fromUtf16(letra);
+            impresion.EsperaSolo(ValorEsperado(YApartado5, x, GetParam().yMarca, cruz));
+        }
 }
 
 TEST_P(CadaCuestion, OtraLetraNoMarcaNada) {
@@ -97,8 +99,15 @@ TEST(Hoja3, LoQueNoTieneCasillaNoSeImprime) {
     }
 }
 
-TEST(Hoja3, TodasLasMarcasALaVez) {
+class Hoja3EnVersion : public testing::TestWithParam<Version> {
+protected:
     ImpresionHoja3 impresion;
+    void SetUp() override { impresion.Idioma(letrasVersion[GetParam()]); }
+};
+INSTANTIATE_TEST_SUITE_P(Versiones, Hoja3EnVersion, testing::Values(Euskera, Castellano),
+                         [](const auto& i) { return i.param == Euskera ? "Eus" : "Cas"; });
+
+TEST_P(Hoja3EnVersion, TodasLasMarcasALaVez) {
     for (const auto& c : TablaApartado5()) c.escribir(impresion.apartado5, QStringLiteral("S"));
     for (const auto& s : solicitudes) impresion.apartado4.*s.respuesta = QString(QChar(s.letra));
     EXPECT_EQ(TextosDePagina(impresion.Copia(), 2).count(cruz), 10 + 26);
@@ -115,22 +124,20 @@ TextoEsperado Centrado(float x, float ancho, float y, const QString& texto) {
             QStringLiteral("Arial Narrow")};
 }
 
-TEST(Apartado4, LaEntidadCentradaEnSusDosAnchos) {
+TEST_P(Hoja3EnVersion, LaEntidadCentradaEnSusDosAnchos) {
     for (const auto* valor : {u"E20123456", u"G1"}) {
-        ImpresionHoja3 impresion;
         impresion.apartado4.NIF = QString::fromUtf16(valor);
         impresion.EsperaSolo(Centrado(27, 20, 76, QString::fromUtf16(valor)));
     }
+    impresion.apartado4.NIF = QString();
     // The longest name runs over both ends of its width.
     for (const QString& nombre : {QStringLiteral("ETXEBERRIA ANAIAK, C.B."), QString(40, u'Ñ')}) {
-        ImpresionHoja3 impresion;
         impresion.apartado4.NOMBRE = nombre;
         impresion.EsperaSolo(Centrado(77, 40, 76, nombre));
     }
 }
 
-TEST(Hoja3, LaCabeceraLlevaIdentificacionYReferencia) {
-    ImpresionHoja3 impresion;
+TEST_P(Hoja3EnVersion, LaCabeceraLlevaIdentificacionYReferencia) {
     impresion.datos.DNI = QStringLiteral("12345678Z");
     impresion.datos.NOMBRE = QStringLiteral("MUÑOZ ETXEBERRIA, ANE");
     impresion.datos.NumeroArchivo = QStringLiteral("2026000417");

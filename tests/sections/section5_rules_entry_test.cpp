@@ -100,6 +100,16 @@ TEST(Entrada5, Paso3AlgunDatoEntreLas17) {
     comprobarAvisos(ValidarIntroduccionDatos(respuestas(u""), {}, Fin2013), {SinDatos});
 }
 
+TEST(Entrada5, Paso3UnaMinusculaNoEsUnNo) {
+    for (const auto* nombre : Las17) {
+        SCOPED_TRACE(s(nombre));
+        RespuestasApartado5 r = respuestas(u"");
+        TablaApartado5()[posicion(TablaApartado5(), q(nombre))].escribir(r, q(u"n"));
+        for (const qint32 fecha : Fechas)
+            comprobarAvisos(ValidarIntroduccionDatos(r, {}, fecha), {});
+    }
+}
+
 TEST(Entrada5, Pasos4A6Caja) {
     const struct {
         const char16_t* cambios;    ///< on a record with every answer "N" but GRANEMPRESA
@@ -110,6 +120,9 @@ TEST(Entrada5, Pasos4A6Caja) {
         {u"IVACAJA=S GENERAL=S", false, false},
         {u"IVACAJA=S IVA=S GENERAL=S", true, true},
         {u"IVACAJA=S IVA=S GENERAL=", true, true},
+        {u"IVACAJA=S IVA=S GENERAL=n", true, true},
+        {u"IVACAJA=S IVA=n GENERAL=S", true, true},
+        {u"IVACAJA=S IVA=n", false, false},
         {u"IVACAJA=S IVA=S AGENCIASOPERACION=S", true, true},
         {u"IVACAJA=S IVA=S AGENCIASGLOBAL=S", true, false},
         {u"IVACAJA=S IVA=S AGENCIASGLOBAL=", true, false},

@@ -1,4 +1,5 @@
-// What implies and what excludes what in section 5, against every combination of yes and no.
+// What implies and what excludes what in section 5, against every combination of yes and no, and of
+// blanks where these tell something else than a no.
 
 #include <bit>
 
@@ -7,7 +8,8 @@
 namespace padral::pruebas {
 namespace {
 
-/// What a yes requires and what it excludes. A required answer is a yes unless it says "=N".
+/// What a yes requires and what it excludes. A required answer is a yes unless it says "=N";
+/// with "=S?" it may be blank, too.
 struct FilaImplica {
     const char16_t* si;
     const char16_t* exige;
@@ -28,7 +30,7 @@ const FilaImplica Filas[] = {
     {u"ART117", u"SOCIEDADES", u"EXENTASOCI COOPERATIVA"},
     {u"COOPERATIVA", u"SOCIEDADES", u"EXENTASOCI ART117"},
     {u"CONSOLIDACION", u"SOCIEDADES", u""},
-    {u"DOMINANTE", u"SOCIEDADES CONSOLIDACION", u""},
+    {u"DOMINANTE", u"SOCIEDADES CONSOLIDACION=S?", u""},
     {u"IRPFDIRECTA", u"", Metodo},
     {u"IRPFOBJETIVA", u"", Metodo},
     {u"IRPFDIRECTSIMPLIF", u"", Metodo},
@@ -63,10 +65,12 @@ public:
         for (const FilaImplica& fila : Filas)
             if (antes2015 || !fila.soloAntes2015) clausulas_.push_back(clausula(fila));
     }
-    bool vale(Conjunto si) const {
+    /// The answers outside both sets are no.
+    bool vale(Conjunto si, Conjunto enBlanco = 0) const {
         if ((si & iva_) != 0 && (si & regimenes_) == 0) return false;
         return std::ranges::none_of(clausulas_, [&](const Clausula& c) {
-            return (si & c.si) != 0 && ((si & c.exige) != c.exige || (si & c.excluye) != 0);
+            const Conjunto cumplidas = si | (enBlanco & c.puedeFaltar);
+            return (si & c.si) != 0 && ((cumplidas & c.exige) != c.exige || (si & c.excluye) != 0);
         });
     }
     static Conjunto todos() {
@@ -81,11 +85,14 @@ public:
 private:
     struct Clausula {
         Conjunto si, exige, excluye;
+        Conjunto puedeFaltar = 0;  ///< of those required
     };
     static Clausula clausula(const FilaImplica& fila) {
         Clausula c{conjunto(fila.si), 0, conjunto(fila.excluye)};
-        for (const auto& [nombre, valor] : pares(fila.exige))
+        for (const auto& [nombre, valor] : pares(fila.exige)) {
             (valor == u"N" ? c.excluye : c.exige) |= bit(nombre);
+            if (valor == u"S?") c.puedeFaltar |= bit(nombre);
+        }
         return c;
     }
     Conjunto iva_, regimenes_;
@@ -128,18 +135,46 @@ TEST_P(Busqueda5, DatosValidosDiceLoQueLaTabla) {
     EXPECT_GT(validos, 0U);
 }
 
+TEST_P(Busqueda5, ConLaConsolidacionEnBlancoTambien) {
+    const Tabla tabla(GetParam() < Inicio2015);
+    const Conjunto enBlanco = bit(q(u"CONSOLIDACION"));
+    bool dominanteVale = false;
+    recorrer(respuestas(u"CONSOLIDACION="), Tabla::todos() & ~enBlanco,
+             [&](const RespuestasApartado5& r, Conjunto si) {
+                 const bool vale = tabla.vale(si, enBlanco);
+                 if (vale && (si & bit(q(u"DOMINANTE"))) != 0) dominanteVale = true;
+                 if ((PrimeraReglaRota(r, GetParam()) == nullptr) == vale) return true;
+                 ADD_FAILURE() << std::hex << si << (vale ? " is valid" : " is not valid");
+                 return false;
+             });
+    EXPECT_TRUE(dominanteVale);
+}
+
 TEST_P(BusquedaCaja5, ExigeFechaIvaYRegimen) {
     const Conjunto regimenes = conjunto(u"GENERAL AGENCIASOPERACION BIENESUSADOS BIENESMARGEN") |
                                (GetParam() < Inicio2015 ? bit(q(u"AGENCIASGLOBAL")) : 0U);
     const Conjunto caja = bit(q(u"IVACAJA")), iva = bit(q(u"IVA"));
-    const Conjunto campos = regimenes | caja | iva | bit(q(u"AGENCIASGLOBAL"));
-    ASSERT_EQ(std::popcount(campos), 7);
-    recorrer(respuestas(u"GRANEMPRESA=S"), campos, [&](const RespuestasApartado5& r, Conjunto si) {
-        const bool vale = (si & caja) == 0 ||
-                          (GetParam() >= Inicio2014 && (si & iva) != 0 && (si & regimenes) != 0);
-        EXPECT_EQ(ValidarIntroduccionDatos(r, {}, GetParam()).valida(), vale) << std::hex << si;
-        return true;
-    });
+    const Conjunto preguntas = regimenes | bit(q(u"AGENCIASGLOBAL"));
+    ASSERT_EQ(std::popcount(preguntas), 5);
+    int vistos = 0;
+    // Every set of regimes without an answer; the others are yes or no.
+    for (Conjunto enBlanco = preguntas;; enBlanco = (enBlanco - 1) & preguntas) {
+        RespuestasApartado5 r = respuestas(u"GRANEMPRESA=S");
+        for (std::size_t i = 0; i < TablaApartado5().size(); ++i)
+            if ((enBlanco >> i & 1U) != 0) TablaApartado5()[i].escribir(r, q(u" "));
+        recorrer(r, (preguntas & ~enBlanco) | caja | iva,
+                 [&](const RespuestasApartado5& una, Conjunto si) {
+                     ++vistos;
+                     const bool vale =
+                         (si & caja) == 0 || (GetParam() >= Inicio2014 && (si & iva) != 0 &&
+                                              ((si | enBlanco) & regimenes) != 0);
+                     EXPECT_EQ(ValidarIntroduccionDatos(una, {}, GetParam()).valida(), vale)
+                         << std::hex << si << ", blank " << enBlanco;
+                     return true;
+                 });
+        if (enBlanco == 0) break;
+    }
+    EXPECT_EQ(vistos, 4 * 243);
 }
 
 INSTANTIATE_TEST_SUITE_P(Fechas, Busqueda5, testing::Values(Fin2014, Inicio2015));

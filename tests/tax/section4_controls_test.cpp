@@ -1,5 +1,7 @@
 // Every control of section 4 by its name, in both editions and languages.
 
+#include <set>
+
 #include "tax/section4_fixture.h"
 
 namespace padral::pruebas {
@@ -117,18 +119,26 @@ TEST_F(PantallaApartado4, CadaEtiquetaEsDeSuCampo) {
 // The answers of a column stand below its heading, whatever the row.
 TEST_F(PantallaApartado4, LasCasillasEstanBajoSuColumna) {
     const std::pair<const char16_t*, std::vector<const char16_t*>> columnas[] = {
-        {u"Label13", {u"ChkEO1", u"ChkED1"}}, {u"Label14", {u"ChkEO2", u"ChkED2"}},
-        {u"Label15", {u"ChkEO3", u"ChkED3"}}, {u"lblCajaOpcion", {u"ChkCaja1"}},
-        {u"lblCajaRenuncia", {u"ChkCaja2"}},  {u"lblCajaExclusion", {u"ChkCaja3"}},
-        {u"Label16", {u"ChkAG1", u"ChkSI1"}}, {u"Label17", {u"ChkAG2", u"ChkSI2"}},
-        {u"Label18", {u"ChkAG3", u"ChkSI3"}}, {u"Label19", {}},
+        {u"Label13", {u"ChkEO1", u"ChkED1"}},  {u"Label14", {u"ChkEO2", u"ChkED2"}},
+        {u"Label15", {u"ChkEO3", u"ChkED3"}},  {u"lblCajaOpcion", {u"ChkCaja1"}},
+        {u"lblCajaRenuncia", {u"ChkCaja2"}},   {u"lblCajaExclusion", {u"ChkCaja3"}},
+        {u"Label16", {u"ChkAG1", u"ChkSI1"}},  {u"Label17", {u"ChkAG2", u"ChkSI2"}},
+        {u"Label18", {u"ChkAG3", u"ChkSI3"}},  {u"lblCajaOpcion", {u"ChkCuoAdu1"}},
+        {u"lblCajaRenuncia", {u"ChkCuoAdu2"}}, {u"lblCajaExclusion", {u"ChkCuoAdu3"}},
     };
-    abrirAntigua();
-    for (const auto& [cabecera, casillas] : columnas)
-        for (const auto* casilla : casillas) {
-            EXPECT_EQ(c(casilla)->x(), c(cabecera)->x()) << s(casilla);
-            EXPECT_GT(c(casilla)->y(), c(cabecera)->y()) << s(casilla);
-        }
+    std::set<const char16_t*> vistas;
+    for (const auto edicion : Ediciones4) {
+        g.FECHAVIGOR = 20131231;
+        abrir(edicion);
+        for (const auto& [cabecera, casillas] : columnas)
+            for (const auto* casilla : casillas) {
+                if (!hay(casilla)) continue;
+                vistas.insert(casilla);
+                EXPECT_EQ(c(casilla)->x(), c(cabecera)->x()) << s(casilla);
+                EXPECT_GT(c(casilla)->y(), c(cabecera)->y()) << s(casilla);
+            }
+    }
+    EXPECT_EQ(vistas.size(), 18U);
 }
 
 }  // namespace

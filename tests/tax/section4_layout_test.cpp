@@ -74,6 +74,7 @@ TEST_F(PantallaApartado4, CabeEnteraEnUnaVentanaPequena) {
             if (euskera) enEuskera();
             g.FECHAVIGOR = 20131231;
             abrir(edicion);
+            EXPECT_GT(pantalla->heightForWidth(1280), 0);
             EXPECT_LE(pantalla->heightForWidth(1280), 600);
             EXPECT_LE(pantalla->minimumSizeHint().width(), 1280);
         }

@@ -179,6 +179,23 @@ TEST_F(PantallaApartado4, CancelarSinCambiosNoTocaElRegistro) {
     EXPECT_EQ(pantallas.Tomar(), salida(u"FrmDatGen"));
 }
 
+// Opening in 2014 empties the answer that is no longer asked for: no change of the user.
+TEST_F(PantallaApartado4, CancelarYLosModulosQueSeVaciaronAlAbrir) {
+    for (const bool otroCambio : {false, true}) {
+        r.LIMPIARDATOS();
+        r.IRPFOBJET = q(u"O");
+        r.GuardarDatosAuxiliares();
+        abrirAntigua(20140101);
+        ASSERT_TRUE(r.IRPFOBJET.vacio());
+        if (otroCambio) pulsar(u"ChkBI1");
+        pulsar(u"cmdCancelar");
+        EXPECT_EQ(pantallas.Tomar(), salida(u"FrmDatGen"));
+        EXPECT_EQ(r.IRPFOBJET.recortado(), otroCambio ? q(u"O") : QString());
+        EXPECT_TRUE(r.IVABIENES.vacio());
+        EXPECT_FALSE(r.MODIFAPARTADO4);
+    }
+}
+
 TEST_F(PantallaApartado4, LasFlechasVanDeBotonEnBoton) {
     abrir();
     enfocar(u"cmdInicio");

@@ -122,6 +122,14 @@ TEST_F(PantallaApartado4, SiguienteSoloSiHayMas) {
     }
 }
 
+TEST_F(PantallaApartado4, LaImagenSigueASuBoton) {
+    abrir();
+    for (const bool sigue : {false, true, false}) {
+        c(u"cmdSiguiente")->setEnabled(sigue);
+        EXPECT_EQ(habilitado(u"PicSiguiente"), sigue);
+    }
+}
+
 TEST_F(PantallaApartado4, SiguienteSePoneAlDiaConCadaClic) {
     abrir();
     ASSERT_TRUE(habilitado(u"cmdSiguiente"));

@@ -117,6 +117,27 @@ TEST_F(PantallaApartado5, UnaPulsacionDuranteElRefrescoNoCambiaNada) {
     EXPECT_FALSE(visible(EnNegativo));
 }
 
+// The row of the box clicked has been refreshed already: nothing else would set it right.
+TEST_F(PantallaApartado5, UnaPulsacionEnUnaFilaYaRefrescadaNoCambiaNada) {
+    for (const auto* guardado : {u" ", u"S", u"N"}) {
+        poner(u" ");
+        r.GRANEMPRESA = q(guardado);
+        abrir();
+        r.SOCIEDADES = q(u"S");  // the next refresh ticks its box
+        int durante = 0;
+        QObject::connect(c<QCheckBox>(u"chk3"), &QCheckBox::toggled, pantalla.get(), [&] {
+            ++durante;
+            c<QCheckBox>(u"chk1")->click();
+            c<QCheckBox>(u"chk2")->click();
+        });
+        pulsar(u"chk8");
+        EXPECT_EQ(durante, 1);
+        EXPECT_EQ(r.GRANEMPRESA.texto(), q(guardado));
+        EXPECT_EQ(marcada(u"chk1"), q(guardado) == u"S") << s(guardado);
+        EXPECT_EQ(marcada(u"chk2"), q(guardado) == u"N") << s(guardado);
+    }
+}
+
 TEST_F(PantallaApartado5, AbrirNoEsCambiar) {
     r.MODIFAPARTADO5 = true;
     r.APARTADO5LLENO = true;

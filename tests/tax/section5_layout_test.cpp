@@ -1,6 +1,8 @@
 // Section 5 on a small screen: nothing cut, nothing hidden, in both languages and with big letters.
 
 #include <QScrollArea>
+#include <algorithm>
+#include <map>
 
 #include "screens/screen_audit.h"
 #include "tax/section5_fixture.h"
@@ -79,6 +81,45 @@ INSTANTIATE_TEST_SUITE_P(Tamanos, Aspectos5,
                                            Aspecto{true, 1, Nueva5}, Aspecto{false, 1.5, Nueva5},
                                            Aspecto{true, 1.5, Nueva5}));
 
+/// Where each question stands, by column from top to bottom.
+std::map<int, std::vector<int>> alturas(QWidget& pantalla) {
+    std::map<int, std::vector<int>> salida;
+    for (const auto& p : Preguntas5) {
+        const auto* casilla = pantalla.findChild<QWidget*>(q(p.si));
+        if (casilla == nullptr || !casilla->isVisible()) continue;
+        const QPoint centro = casilla->mapTo(&pantalla, casilla->rect().center());
+        salida[centro.x()].push_back(centro.y());
+    }
+    return salida;
+}
+
+TEST_F(PantallaApartado5, LasDosColumnasTienenSusFilasEnLinea) {
+    for (const auto edicion : {Antigua5, Nueva5})
+        for (const auto* iva : {u"S", u"N"}) {
+            r.IVA = q(iva);
+            abrir(edicion);
+            const auto columnas = alturas(*pantalla);
+            ASSERT_EQ(columnas.size(), 2U);
+            const auto& [izquierda, derecha] =
+                std::pair(columnas.begin()->second, columnas.rbegin()->second);
+            for (const int y : derecha)
+                EXPECT_EQ(std::ranges::count(izquierda, y), 1) << s(iva) << " at " << y;
+        }
+}
+
+TEST_F(PantallaApartado5, LaPreguntaEscondidaNoDejaHueco) {
+    abrir(Antigua5, 20131231);
+    const auto altura = [&](const char16_t* nombre) {
+        return c(nombre)->mapTo(pantalla.get(), QPoint()).y();
+    };
+    const int suya = altura(u"chk23");
+    EXPECT_GT(altura(u"chk25"), suya);
+    abrir(Antigua5, 20140101);
+    EXPECT_EQ(altura(u"chk25"), suya);
+    pulsar(u"chk1");
+    EXPECT_EQ(altura(u"chk25"), suya) << "once, not at each click";
+}
+
 TEST_F(PantallaApartado5, CabeEnteraEnUnaVentanaPequena) {
     for (const bool euskera : {false, true})
         for (const auto edicion : {Antigua5, Nueva5})
@@ -86,6 +127,7 @@ TEST_F(PantallaApartado5, CabeEnteraEnUnaVentanaPequena) {
                 if (euskera) enEuskera();
                 r.IVA = q(iva);
                 abrir(edicion);
+                EXPECT_GT(pantalla->heightForWidth(1280), 0);
                 EXPECT_LE(pantalla->heightForWidth(1280), 600);
             }
 }

@@ -49,12 +49,6 @@ constexpr struct {
      {871, TituloValidacion, u"Ap4- "}},
 };
 
-/// The stored text without the blanks that fill its width, as the user typed it.
-QString sinRelleno(QString texto) {
-    while (texto.endsWith(u' ')) texto.chop(1);
-    return texto;
-}
-
 }  // namespace
 
 Revision NIFValido(const QString& texto, const ServidorNif& valida) {
@@ -65,7 +59,7 @@ Revision NIFValido(const QString& texto, const ServidorNif& valida) {
 
 Revision Validaciones(const DatosApartado4& apartado, const ServidorNif& valida) {
     if (!apartado.NIF.vacio()) {
-        Revision nif = NIFValido(sinRelleno(apartado.NIF), valida);
+        Revision nif = NIFValido(SinRelleno(apartado.NIF), valida);
         if (!nif.valida()) {
             nif.avisos.push_back({78, TituloValidacion});
             return nif;

@@ -2,21 +2,13 @@
 
 #include "sections/tax/screen/frm_apartado4.h"
 #include "sections/tax/screen/frm_apartado4_tables.h"
+#include "sections/tax/tax_rules.h"
 
 namespace padral {
 
 using namespace apartado4;
 
 namespace {
-
-/// Effective date from which modules are no longer asked for.
-constexpr qint32 FinModulos = 20140101;
-
-/// The text without the blanks that fill its width.
-QString sinRelleno(QString texto) {
-    while (texto.endsWith(u' ')) texto.chop(1);
-    return texto;
-}
 
 QString valorDe(const Solicitud& solicitud, std::size_t i) {
     return QString::fromUtf16(solicitud.respuestas[i].valor);
@@ -39,8 +31,8 @@ void frmApartado4::presentarEntidad() {
         apartado_.NIF = QString();
         apartado_.NOMBRE = QString();
     }
-    txtNIF_->Presentar(sinRelleno(apartado_.NIF));
-    txtNombre_->Presentar(sinRelleno(apartado_.NOMBRE));
+    txtNIF_->Presentar(SinRelleno(apartado_.NIF));
+    txtNombre_->Presentar(SinRelleno(apartado_.NOMBRE));
     for (auto* campo : {txtNIF_, txtNombre_})
         if (socio)
             DesbloquearCampo(campo);

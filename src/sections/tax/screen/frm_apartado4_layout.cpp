@@ -19,7 +19,7 @@ constexpr int TituloPantalla = 1;
 constexpr Rotulo RotuloNif{u"Label11", 21}, RotuloNombre{u"Label12", 20};
 constexpr int AnchoNif = 9, AnchoNombre = 40;
 constexpr int Columnas = 4;
-constexpr int EntreFilas = 6, EntreColumnas = 18, JuntoAlCampo = 6;
+constexpr int EntreFilas = 6, EntreColumnas = 18, JuntoAlCampo = 6, TrasElTitulo = 6;
 /// Shares of the width: the answers stay near the question.
 constexpr int Ancho[Columnas] = {4, 1, 1, 1};
 
@@ -49,6 +49,7 @@ frmApartado4::frmApartado4(const Contexto& contexto, cDeclaraciones& declaracion
     auto* titulo = Encabezado(QStringLiteral("lblTituloPantalla"), this);
     etiquetas_.emplace_back(titulo, TituloPantalla);
     todo->addWidget(titulo);
+    todo->addSpacing(TrasElTitulo);
     auto* rejilla = new QGridLayout;
     rejilla->setVerticalSpacing(EntreFilas);
     rejilla->setHorizontalSpacing(EntreColumnas);

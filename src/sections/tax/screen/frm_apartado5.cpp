@@ -6,17 +6,11 @@
 
 #include "core/field_rules.h"
 #include "sections/tax/screen/frm_apartado5_tables.h"
+#include "sections/tax/tax_rules.h"
 
 namespace padral {
 
 using namespace apartado5;
-
-namespace {
-
-/// Effective date from which modules are answered with no and not asked, `yyyymmdd`.
-constexpr qint32 SinModulos = 20140101;
-
-}  // namespace
 
 void frmApartado5::Cargar() {
     Anadir_captions();
@@ -51,13 +45,18 @@ void frmApartado5::ActualizarBotones() {
     // The picture follows its button.
     botones_->Habilitar(Siguiente, std::any_of(marcas.begin(), marcas.end(),
                                                [](const auto* marca) { return Marcado(*marca); }));
-    if (edicion_ == EdicionApartado5::Desde2015 || g.FECHAVIGOR < SinModulos) return;
+    if (edicion_ == EdicionApartado5::Desde2015 || g.FECHAVIGOR < FinModulos) return;
     apartado_.IRPFOBJETIVA = QStringLiteral("N");
     for (const auto& fila : filas_)
-        if (fila.pregunta->respuesta == &R5::IRPFOBJETIVA)
-            for (QWidget* w : {static_cast<QWidget*>(fila.si), static_cast<QWidget*>(fila.no),
-                               static_cast<QWidget*>(fila.etiqueta), fila.marco})
-                w->hide();
+        if (fila.pregunta->respuesta == &R5::IRPFOBJETIVA) esconder(fila);
+}
+
+void frmApartado5::esconder(const FilaPregunta& fila) {
+    if (fila.marco->isHidden()) return;
+    for (QWidget* w : {static_cast<QWidget*>(fila.si), static_cast<QWidget*>(fila.no),
+                       static_cast<QWidget*>(fila.etiqueta), fila.marco})
+        w->hide();
+    cerrarHueco(fila);
 }
 
 void frmApartado5::conectarCasillas() {

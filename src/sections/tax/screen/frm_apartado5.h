@@ -9,7 +9,6 @@
 #include "ui/screen.h"
 #include "ui/section_buttons.h"
 
-class QBoxLayout;
 class QGridLayout;
 class QGroupBox;
 class QLabel;
@@ -47,20 +46,29 @@ private:
         CasillaRespuesta *si, *no;
     };
 
+    /// Where the next row goes.
+    struct Sitio {
+        QGridLayout* rejilla;
+        int columna, fila;
+    };
+
     // Construction, in frm_apartado5_layout.cpp.
     QLabel* crearRotulo(const apartado5::Rotulo& rotulo, QWidget* padre);
-    QBoxLayout* crearZona(apartado5::Zona zona, QWidget* padre);
+    QGridLayout* crearZona(apartado5::Zona zona, QWidget* padre);
     QGroupBox* crearPanel(std::size_t i);
-    void crearPregunta(const apartado5::Pregunta& pregunta, QGridLayout* rejilla, QWidget* padre);
-    void crearCabecera(QGridLayout* rejilla, QWidget* padre);
+    void crearPregunta(const apartado5::Pregunta& pregunta, Sitio& sitio, QWidget* padre);
+    void crearCabecera(Sitio& sitio, QWidget* padre);
     bool sePregunta(const apartado5::Pregunta& pregunta) const;
     void igualarAnchos();
+    /// The questions below a hidden one move up.
+    void cerrarHueco(const FilaPregunta& escondida);
 
     // Answers, in frm_apartado5.cpp.
     void conectarCasillas();
     void Refrescar();
     void presentar(const FilaPregunta& fila);
     void ActualizarBotones();
+    void esconder(const FilaPregunta& fila);
     void pulsar(const FilaPregunta& fila, bool si);
     void responder(const apartado5::Pregunta& pregunta, bool si);
     void cerrarRamas(bool si, bool repetida);
@@ -81,6 +89,7 @@ private:
     bool refrescando_ = false;
 
     std::vector<FilaPregunta> filas_;
+    QGridLayout* arriba_;
     std::array<QGroupBox*, 2> paneles_{};
     std::vector<QWidget*> cabecerasSi_, cabecerasNo_;
     /// Captions that are just a text of the catalogue.

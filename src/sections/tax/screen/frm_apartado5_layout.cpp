@@ -33,15 +33,16 @@ QBoxLayout* ladoALado(QWidget* si, QWidget* no, QWidget* en = nullptr) {
     return fila;
 }
 
-QGridLayout* nuevaRejilla(QBoxLayout* zona) {
-    auto* columna = new QVBoxLayout;
+/// Where each of the two columns of questions begins in the grid of a zone, which has a gap between
+/// them. One grid for both: their rows are in line.
+constexpr int Izquierda = 0, Hueco = 2, Derecha = 3;
+
+QGridLayout* nuevaRejilla() {
     auto* rejilla = new QGridLayout;
     rejilla->setVerticalSpacing(EntreFilas);
     rejilla->setHorizontalSpacing(TrasLaPregunta);
-    rejilla->setColumnStretch(0, 1);
-    columna->addLayout(rejilla);
-    columna->addStretch(1);
-    zona->addLayout(columna, 1);
+    rejilla->setColumnMinimumWidth(Hueco, EntreColumnas - 2 * TrasLaPregunta);
+    for (const int columna : {Izquierda, Derecha}) rejilla->setColumnStretch(columna, 1);
     return rejilla;
 }
 
@@ -63,15 +64,15 @@ frmApartado5::frmApartado5(const Contexto& contexto, cDeclaraciones& declaracion
     auto* titulo = Encabezado(QStringLiteral("lblTituloPantalla"), this);
     etiquetas_.emplace_back(titulo, TituloPantalla);
     todo->addWidget(titulo);
-    auto* arriba = crearZona(Zona::Arriba, this);
-    todo->addLayout(arriba);
+    arriba_ = crearZona(Zona::Arriba, this);
+    todo->addLayout(arriba_);
     for (std::size_t i = 0; i < paneles_.size(); ++i) {
         paneles_[i] = crearPanel(i);
         todo->addWidget(paneles_[i]);
     }
     // As far from the edge as what stands in the panels, so that the boxes are in line.
     const QMargins marco = paneles_[0]->contentsMargins();
-    arriba->setContentsMargins(marco.left() + MargenZona, 0, marco.right() + MargenZona, 0);
+    arriba_->setContentsMargins(marco.left() + MargenZona, 0, marco.right() + MargenZona, 0);
     todo->addStretch(1);
     botones_ = new BotonesApartado(BotonesAlPie, BotonesAlPrincipio, this);
     todo->addWidget(botones_);
@@ -91,24 +92,21 @@ bool frmApartado5::sePregunta(const Pregunta& pregunta) const {
 }
 
 /// The questions of a zone in two columns.
-QBoxLayout* frmApartado5::crearZona(Zona zona, QWidget* padre) {
-    auto* columnas = new QHBoxLayout;
-    columnas->setSpacing(EntreColumnas);
+QGridLayout* frmApartado5::crearZona(Zona zona, QWidget* padre) {
+    auto* rejilla = nuevaRejilla();
     std::size_t puestas = 0;
-    QGridLayout* rejilla = nullptr;
+    Sitio sitio{rejilla, Izquierda, 0};
     for (const auto& pregunta : Preguntas) {
         if (pregunta.zona != zona || !sePregunta(pregunta)) continue;
-        if (puestas == 0 || puestas == EnLaIzquierda[static_cast<std::size_t>(zona)]) {
-            rejilla = nuevaRejilla(columnas);
-            if (zona == Zona::Arriba) crearCabecera(rejilla, padre);
-        }
-        crearPregunta(pregunta, rejilla, padre);
+        if (puestas == EnLaIzquierda[static_cast<std::size_t>(zona)]) sitio = {rejilla, Derecha, 0};
+        if (sitio.fila == 0 && zona == Zona::Arriba) crearCabecera(sitio, padre);
+        crearPregunta(pregunta, sitio, padre);
         ++puestas;
     }
-    return columnas;
+    return rejilla;
 }
 
-void frmApartado5::crearCabecera(QGridLayout* rejilla, QWidget* padre) {
+void frmApartado5::crearCabecera(Sitio& sitio, QWidget* padre) {
     static constexpr Rotulo Si{u"Label26", 2}, No{u"Label27", 3};
     const auto cabecera = [&](const Rotulo& texto, std::vector<QWidget*>& lista) {
         auto* etiqueta = Encabezado(QString::fromUtf16(texto.nombre), padre);
@@ -118,13 +116,14 @@ void frmApartado5::crearCabecera(QGridLayout* rejilla, QWidget* padre) {
         lista.push_back(etiqueta);
         return etiqueta;
     };
-    rejilla->addLayout(ladoALado(cabecera(Si, cabecerasSi_), cabecera(No, cabecerasNo_)), 0, 1);
+    sitio.rejilla->addLayout(ladoALado(cabecera(Si, cabecerasSi_), cabecera(No, cabecerasNo_)),
+                             sitio.fila++, sitio.columna + 1);
 }
 
-void frmApartado5::crearPregunta(const Pregunta& pregunta, QGridLayout* rejilla, QWidget* padre) {
+void frmApartado5::crearPregunta(const Pregunta& pregunta, Sitio& sitio, QWidget* padre) {
     if (pregunta.encabezado.texto != 0) {
         auto* encabezado = crearRotulo(pregunta.encabezado, padre);
-        rejilla->addWidget(encabezado, rejilla->rowCount(), 0);
+        sitio.rejilla->addWidget(encabezado, sitio.fila++, sitio.columna);
     }
     auto* marco = new QWidget(padre);
     marco->setObjectName(QString::fromUtf16(pregunta.marco));
@@ -133,10 +132,21 @@ void frmApartado5::crearPregunta(const Pregunta& pregunta, QGridLayout* rejilla,
     ladoALado(si, no, marco);
     auto* etiqueta = crearRotulo(pregunta.etiqueta, padre);
     etiqueta->setBuddy(si);
-    const int fila = rejilla->rowCount();
-    rejilla->addWidget(etiqueta, fila, 0);
-    rejilla->addWidget(marco, fila, 1);
+    sitio.rejilla->addWidget(etiqueta, sitio.fila, sitio.columna);
+    sitio.rejilla->addWidget(marco, sitio.fila++, sitio.columna + 1);
     filas_.push_back({&pregunta, etiqueta, marco, si, no});
+}
+
+void frmApartado5::cerrarHueco(const FilaPregunta& escondida) {
+    for (const auto& otra : filas_) {
+        if (&otra <= &escondida || otra.pregunta->zona != Zona::Arriba) continue;
+        for (QWidget* w : {static_cast<QWidget*>(otra.etiqueta), otra.marco}) {
+            int fila = 0, columna = 0, filas = 0, columnas = 0;
+            arriba_->getItemPosition(arriba_->indexOf(w), &fila, &columna, &filas, &columnas);
+            arriba_->removeWidget(w);
+            arriba_->addWidget(w, fila - 1, columna);
+        }
+    }
 }
 
 QGroupBox* frmApartado5::crearPanel(std::size_t i) {
