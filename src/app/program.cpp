@@ -79,12 +79,12 @@ void Programa::registrarApartados(const Contexto& contexto) {
     ventana_->Registrar(QStringLiteral("FrmApartado2"), [this, contexto]() -> QWidget* {
         return new FrmApartado2(contexto, *declaracion_);
     });
-    registrarEdiciones<FrmApartado3, EdicionApartado3>(contexto, QStringLiteral("FrmApartado3"));
-    registrarEdiciones<frmApartado4, EdicionApartado4>(contexto, QStringLiteral("frmApartado4"));
-    registrarEdiciones<frmApartado5, EdicionApartado5>(contexto, QStringLiteral("frmApartado5"));
+    registrarEdiciones<FrmApartado3>(contexto, QStringLiteral("FrmApartado3"));
+    registrarEdiciones<frmApartado4>(contexto, QStringLiteral("frmApartado4"));
+    registrarEdiciones<frmApartado5>(contexto, QStringLiteral("frmApartado5"));
 }
 
-template <class Formulario, class Edicion>
+template <class Formulario>
 void Programa::registrarEdiciones(const Contexto& contexto, const QString& nombre) {
     const auto registrar = [&](const QString& conEdicion, Edicion edicion) {
         ventana_->Registrar(conEdicion, [this, contexto, edicion]() -> QWidget* {

@@ -52,7 +52,7 @@ private:
     void registrarPantallas();
     void registrarApartados(const Contexto& contexto);
     /// A screen with an edition before 2015 and one since then.
-    template <class Formulario, class Edicion>
+    template <class Formulario>
     void registrarEdiciones(const Contexto& contexto, const QString& nombre);
     void ponerIdioma();
 

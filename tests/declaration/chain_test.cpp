@@ -137,28 +137,29 @@ TEST_F(Cadena, SiguienteNoTocaElOrigen) {
     EXPECT_EQ(estado.FormularioOrigen, QStringLiteral("FrmApartado2"));
 }
 
-struct Edicion {
+struct EdicionEsperada {
     qint32 vigor;
     int seccion;
     const char16_t* nombre;
 };
-class EdicionDePantalla : public ConDeclaracion, public ::testing::WithParamInterface<Edicion> {};
+class EdicionDePantalla : public ConDeclaracion,
+                          public ::testing::WithParamInterface<EdicionEsperada> {};
 
 TEST_P(EdicionDePantalla, PorFechaDeVigor) {
     g.FECHAVIGOR = GetParam().vigor;
     EXPECT_EQ(d.PantallaApartado(GetParam().seccion), q(GetParam().nombre));
 }
 INSTANTIATE_TEST_SUITE_P(Filas, EdicionDePantalla,
-                         ::testing::Values(Edicion{0, 3, u"FrmApartado3"},
-                                           Edicion{20141231, 3, u"FrmApartado3"},
-                                           Edicion{20150101, 3, u"FrmApartado3_2015"},
-                                           Edicion{20141231, 4, u"frmApartado4"},
-                                           Edicion{20150101, 4, u"frmApartado4_2015"},
-                                           Edicion{20141231, 5, u"frmApartado5"},
-                                           Edicion{20150101, 5, u"frmApartado5_2015"},
-                                           Edicion{20150101, 2, u"FrmApartado2"},
-                                           Edicion{20150101, 6, u"frmApartado6"},
-                                           Edicion{20150101, 7, u"FrmApartado7"}));
+                         ::testing::Values(EdicionEsperada{0, 3, u"FrmApartado3"},
+                                           EdicionEsperada{20141231, 3, u"FrmApartado3"},
+                                           EdicionEsperada{20150101, 3, u"FrmApartado3_2015"},
+                                           EdicionEsperada{20141231, 4, u"frmApartado4"},
+                                           EdicionEsperada{20150101, 4, u"frmApartado4_2015"},
+                                           EdicionEsperada{20141231, 5, u"frmApartado5"},
+                                           EdicionEsperada{20150101, 5, u"frmApartado5_2015"},
+                                           EdicionEsperada{20150101, 2, u"FrmApartado2"},
+                                           EdicionEsperada{20150101, 6, u"frmApartado6"},
+                                           EdicionEsperada{20150101, 7, u"FrmApartado7"}));
 
 TEST_F(Cadena, SinParticipesSePreparaUnoNuevo) {
     g.AnexoI = QStringLiteral("X");

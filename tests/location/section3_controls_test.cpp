@@ -86,7 +86,7 @@ protected:
 };
 
 TEST_P(Controles3, ConSuTextoYSuAyuda) {
-    for (const auto edicion : {EdicionApartado3::Hasta2014, EdicionApartado3::Desde2015}) {
+    for (const auto edicion : {Edicion::Hasta2014, Edicion::Desde2015}) {
         abrir(edicion);
         for (const auto& control : Controles) {
             SCOPED_TRACE(s(control.nombre));
@@ -168,11 +168,11 @@ TEST_F(PantallaApartado3, CadaEtiquetaEsDeSuCampo) {
 }
 
 TEST_F(PantallaApartado3, SoloLaEdicionNuevaPreguntaALosRevendedores) {
-    abrir(EdicionApartado3::Hasta2014);
+    abrir(Edicion::Hasta2014);
     EXPECT_EQ(pantalla->objectName(), q(u"FrmApartado3"));
     EXPECT_EQ(pantalla->findChild<QWidget*>(q(u"chkActVenMov")), nullptr);
     EXPECT_EQ(pantalla->findChild<QWidget*>(q(u"lblActRevMov")), nullptr);
-    abrir(EdicionApartado3::Desde2015);
+    abrir(Edicion::Desde2015);
     EXPECT_EQ(pantalla->objectName(), q(u"FrmApartado3_2015"));
     EXPECT_EQ(c<QLabel>(u"lblActRevMov")->text(), estado.Texto(880));
 }
@@ -213,7 +213,7 @@ TEST_F(PantallaApartado3, ElTabuladorSigueElOrdenDeLectura) {
                   comunes);
     sinEpigrafe(u"AFINADOR");
     otraForma(u"COFRADIA");
-    abrir(EdicionApartado3::Hasta2014);
+    abrir(Edicion::Hasta2014);
     EXPECT_EQ(visitados(),
               q(u"numPorcenIVA mskFechaInicio txtDescripcionActividad txtSinEpigrafe txtOtros "
                 u"txtAnagrama mskFechaCierre ") +

@@ -29,11 +29,11 @@ protected:
         });
     }
 
-    void abrir(EdicionApartado3 edicion = EdicionApartado3::Desde2015) {
+    void abrir(Edicion edicion = Edicion::Desde2015) {
         ConPantalla::abrir(std::make_unique<FrmApartado3>(contexto(), d, edicion));
     }
     /// Opens a record that breaks no rule, last accepted as it is, in a declaration that goes on.
-    void abrirValida(EdicionApartado3 edicion = EdicionApartado3::Desde2015) {
+    void abrirValida(Edicion edicion = Edicion::Desde2015) {
         valida();
         r.RellenarTablaAuxiliar();
         abrir(edicion);

@@ -11,7 +11,7 @@ namespace {
 struct Aspecto {
     bool euskera;
     double letra;
-    EdicionApartado3 edicion;
+    Edicion edicion;
 };
 void PrintTo(const Aspecto& a, std::ostream* salida) {
     *salida << (a.euskera ? "eu" : "es") << " x " << a.letra;
@@ -61,7 +61,7 @@ TEST_P(Aspectos3, NadaSaleCortado) {
     r.Correo = r.Fax = r.Movil = r.Fijo = q(u"A");
     mirar();
 }
-constexpr auto Antigua = EdicionApartado3::Hasta2014, Nueva = EdicionApartado3::Desde2015;
+constexpr auto Antigua = Edicion::Hasta2014, Nueva = Edicion::Desde2015;
 INSTANTIATE_TEST_SUITE_P(Tamanos, Aspectos3,
                          ::testing::Values(Aspecto{false, 1, Antigua}, Aspecto{true, 1, Antigua},
                                            Aspecto{false, 1.5, Antigua},

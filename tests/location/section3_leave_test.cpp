@@ -41,7 +41,7 @@ protected:
 TEST_P(Salidas3, SinCambiosNoSeCompruebaNadaMasQueLaResidencia) {
     r.ActivEcon = r.ListaEpigrafe = QString();
     r.Fax = q(u"A");
-    for (const auto edicion : {EdicionApartado3::Hasta2014, EdicionApartado3::Desde2015}) {
+    for (const auto edicion : {Edicion::Hasta2014, Edicion::Desde2015}) {
         for (const auto* nombre : {GetParam().boton, GetParam().imagen}) {
             abrir(edicion);
             sinCambios([&] { pulsar(nombre); });
@@ -53,12 +53,12 @@ TEST_P(Salidas3, SinCambiosNoSeCompruebaNadaMasQueLaResidencia) {
 }
 
 TEST_P(Salidas3, ConCambiosValidosSeAcepta) {
-    for (const auto edicion : {EdicionApartado3::Hasta2014, EdicionApartado3::Desde2015}) {
+    for (const auto edicion : {Edicion::Hasta2014, Edicion::Desde2015}) {
         r.Lleno = estado.ModificacionesPendientes = false;
         r.RellenarTablaAuxiliar();
         abrir(edicion);
         const int esperas = pantallas.EsperasTotales;
-        escribir(u"txtAnagrama", edicion == EdicionApartado3::Hasta2014 ? q(u"A") : q(u"B"));
+        escribir(u"txtAnagrama", edicion == Edicion::Hasta2014 ? q(u"A") : q(u"B"));
         pulsar(GetParam().boton);
         sale();
         EXPECT_EQ(pantallas.EsperasTotales, esperas + 1);
@@ -101,10 +101,10 @@ TEST_P(Salidas3, SinResidenciaNoSeSale) {
 }
 
 TEST_P(Salidas3, CadaEdicionDiceSuNombre) {
-    abrirValida(EdicionApartado3::Hasta2014);
+    abrirValida(Edicion::Hasta2014);
     pulsar(GetParam().boton);
     EXPECT_EQ(pantallas.Tomar().back(), q(u"Descargar FrmApartado3"));
-    abrirValida(EdicionApartado3::Desde2015);
+    abrirValida(Edicion::Desde2015);
     pulsar(GetParam().boton);
     EXPECT_EQ(pantallas.Tomar().back(), q(u"Descargar FrmApartado3_2015"));
 }

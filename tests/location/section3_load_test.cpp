@@ -138,7 +138,7 @@ TEST_F(PantallaApartado3, LaForma90MuestraSuDescripcion) {
 TEST_F(PantallaApartado3, LaEdicionAntiguaConservaLaReventa) {
     valida();
     r.ActVenMov = q(u"X");
-    sinCambios([&] { abrir(EdicionApartado3::Hasta2014); });
+    sinCambios([&] { abrir(Edicion::Hasta2014); });
 }
 
 TEST_F(PantallaApartado3, UnCatalogoLargoSaleEntero) {
@@ -166,7 +166,7 @@ TEST_F(PantallaApartado3, UnCatalogoSinLasListasDeDomiciliosFallaAlCargar) {
             store::CreateCatalogueFile(estado.RutaBDLectura, [tabla](SQLite::Database& db) {
                 db.exec(std::string("DROP TABLE ") + tabla);
             });
-            FrmApartado3 sola(contexto(), d, EdicionApartado3::Desde2015);
+            FrmApartado3 sola(contexto(), d, Edicion::Desde2015);
             try {
                 sola.Cargar();
                 ADD_FAILURE() << "no failure";

@@ -106,7 +106,7 @@ protected:
 };
 
 TEST_P(Reglas3, Rota) {
-    for (const auto edicion : {EdicionApartado3::Hasta2014, EdicionApartado3::Desde2015}) {
+    for (const auto edicion : {Edicion::Hasta2014, Edicion::Desde2015}) {
         abrir(edicion);
         esperaRechazo(q(GetParam().mensaje), q(u"Error en relación de datos"));
     }

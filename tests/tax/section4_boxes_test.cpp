@@ -13,8 +13,8 @@ protected:
     void enCadaEdicion(const std::function<void()>& hacer) {
         for (const auto edicion : Ediciones4) {
             if (!fila().esta(edicion)) continue;
-            SCOPED_TRACE(edicion == EdicionApartado4::Hasta2014 ? "2014" : "2015");
-            g.FECHAVIGOR = edicion == EdicionApartado4::Hasta2014 ? 20131231 : 20150101;
+            SCOPED_TRACE(edicion == Edicion::Hasta2014 ? "2014" : "2015");
+            g.FECHAVIGOR = edicion == Edicion::Hasta2014 ? 20131231 : 20150101;
             r.LIMPIARDATOS();
             abrir(edicion);
             hacer();
@@ -142,9 +142,8 @@ TEST_P(Casillas4, SeMuestraLoGuardado) {
             if (fila().miembro == &DatosApartado4::IVASOCIO) socio();
             r.*fila().miembro = q(casilla.valor);
             const Letra guardado = r.*fila().miembro;
-            abrir(fila().esta(EdicionApartado4::Hasta2014) && g.FECHAVIGOR < 20150101
-                      ? EdicionApartado4::Hasta2014
-                      : EdicionApartado4::Desde2015);
+            abrir(fila().esta(Edicion::Hasta2014) && g.FECHAVIGOR < 20150101 ? Edicion::Hasta2014
+                                                                             : Edicion::Desde2015);
             esperaMarcada(fila(), casilla.nombre);
             EXPECT_EQ(r.*fila().miembro, guardado);
             EXPECT_FALSE(r.MODIFAPARTADO4);

@@ -5,7 +5,7 @@
 namespace padral::pruebas {
 namespace {
 
-class Entidad4 : public PantallaApartado4, public ::testing::WithParamInterface<EdicionApartado4> {
+class Entidad4 : public PantallaApartado4, public ::testing::WithParamInterface<Edicion> {
 protected:
     void abrirSocio(const char16_t* nif = u"E12345674", const char16_t* nombre = u"COFRADIA") {
         r.LIMPIARDATOS();
@@ -228,7 +228,7 @@ TEST_P(Entidad4, NueveYCuarentaCaracteres) {
 }
 
 INSTANTIATE_TEST_SUITE_P(Ediciones, Entidad4, ::testing::ValuesIn(Ediciones4), [](const auto& i) {
-    return i.param == EdicionApartado4::Hasta2014 ? "Hasta2014" : "Desde2015";
+    return i.param == Edicion::Hasta2014 ? "Hasta2014" : "Desde2015";
 });
 
 }  // namespace

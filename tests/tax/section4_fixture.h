@@ -6,8 +6,7 @@
 
 namespace padral::pruebas {
 
-inline constexpr EdicionApartado4 Ediciones4[] = {EdicionApartado4::Hasta2014,
-                                                  EdicionApartado4::Desde2015};
+inline constexpr Edicion Ediciones4[] = {Edicion::Hasta2014, Edicion::Desde2015};
 
 struct CasillaEsperada {
     const char16_t* nombre;
@@ -22,8 +21,8 @@ struct FilaEsperada {
     std::vector<CasillaEsperada> casillas;
     bool hasta2014 = true, desde2015 = true;
 
-    bool esta(EdicionApartado4 edicion) const {
-        return edicion == EdicionApartado4::Hasta2014 ? hasta2014 : desde2015;
+    bool esta(Edicion edicion) const {
+        return edicion == Edicion::Hasta2014 ? hasta2014 : desde2015;
     }
 };
 inline void PrintTo(const FilaEsperada& f, std::ostream* salida) { *salida << f.propiedad; }
@@ -93,14 +92,13 @@ protected:
     }
 
     /// Opens an edition in a declaration of its time.
-    void abrir(EdicionApartado4 edicion = EdicionApartado4::Desde2015) {
-        if (edicion == EdicionApartado4::Desde2015 && g.FECHAVIGOR < 20150101)
-            g.FECHAVIGOR = 20150101;
+    void abrir(Edicion edicion = Edicion::Desde2015) {
+        if (edicion == Edicion::Desde2015 && g.FECHAVIGOR < 20150101) g.FECHAVIGOR = 20150101;
         ConPantalla::abrir(std::make_unique<frmApartado4>(contexto(), d, edicion));
     }
     void abrirAntigua(qint32 fechaVigor = 20131231) {
         g.FECHAVIGOR = fechaVigor;
-        abrir(EdicionApartado4::Hasta2014);
+        abrir(Edicion::Hasta2014);
     }
     /// A record that breaks no rule, accepted as it is.
     void valida() {

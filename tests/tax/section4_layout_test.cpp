@@ -11,7 +11,7 @@ namespace {
 struct Aspecto {
     bool euskera;
     double letra;
-    EdicionApartado4 edicion;
+    Edicion edicion;
 };
 void PrintTo(const Aspecto& a, std::ostream* salida) {
     *salida << (a.euskera ? "eu" : "es") << " x " << a.letra;
@@ -60,7 +60,7 @@ TEST_P(Aspectos4, NadaSaleCortado) {
     socio(u"G12345674", u"ABCDEFGHIJABCDEFGHIJABCDEFGHIJABCDEFGHIJ");
     mirar();
 }
-constexpr auto Antigua = EdicionApartado4::Hasta2014, Nueva = EdicionApartado4::Desde2015;
+constexpr auto Antigua = Edicion::Hasta2014, Nueva = Edicion::Desde2015;
 INSTANTIATE_TEST_SUITE_P(Tamanos, Aspectos4,
                          ::testing::Values(Aspecto{false, 1, Antigua}, Aspecto{true, 1, Antigua},
                                            Aspecto{false, 1.5, Antigua},

@@ -25,7 +25,7 @@ TEST_F(PantallaApartado4, CadaEdicionDiceSuNombreYEmpiezaPorSuPrimeraCasilla) {
     EXPECT_EQ(foco(), q(u"ChkEO1"));
     abrirAntigua(20140101);
     EXPECT_EQ(foco(), q(u"ChkED1"));
-    abrir(EdicionApartado4::Desde2015);
+    abrir(Edicion::Desde2015);
     EXPECT_EQ(pantalla->objectName(), q(u"frmApartado4_2015"));
     EXPECT_EQ(foco(), q(u"ChkED1"));
 }
@@ -62,7 +62,7 @@ TEST_F(PantallaApartado4, Antes2014SeConserva) {
 
 TEST_F(PantallaApartado4, LaEdicionDe2015ConservaLoQueNoMuestra) {
     r.IRPFOBJET = r.IVAAGENCIAS = q(u"O");
-    abrir(EdicionApartado4::Desde2015);
+    abrir(Edicion::Desde2015);
     pulsar(u"ChkCuoAdu2");
     pulsar(u"ChkED1");
     EXPECT_EQ(r.IRPFOBJET.recortado(), q(u"O"));

@@ -7,8 +7,7 @@ namespace {
 
 constexpr const char16_t* Salidas[] = {u"cmdInicio", u"cmdAnterior", u"cmdSiguiente"};
 
-class Reglas4Pantalla : public PantallaApartado4,
-                        public ::testing::WithParamInterface<EdicionApartado4> {
+class Reglas4Pantalla : public PantallaApartado4, public ::testing::WithParamInterface<Edicion> {
 protected:
     /// Leaves by every way; each time exactly these messages come and the screen stays.
     void rechazan(const std::vector<std::pair<QString, QString>>& mensajes,
@@ -183,8 +182,7 @@ TEST_P(Reglas4Pantalla, EnEuskera) {
 
 INSTANTIATE_TEST_SUITE_P(Ediciones, Reglas4Pantalla, ::testing::ValuesIn(Ediciones4),
                          [](const auto& i) {
-                             return i.param == EdicionApartado4::Hasta2014 ? "Hasta2014"
-                                                                           : "Desde2015";
+                             return i.param == Edicion::Hasta2014 ? "Hasta2014" : "Desde2015";
                          });
 
 }  // namespace

@@ -7,7 +7,7 @@ namespace {
 
 struct Fila5 {
     Pregunta5 pregunta;
-    EdicionApartado5 edicion;
+    Edicion edicion;
 };
 void PrintTo(const Fila5& f, std::ostream* salida) {
     *salida << s(f.pregunta.etiqueta) << (f.edicion == Nueva5 ? " 2015" : "");

@@ -10,7 +10,7 @@
 namespace padral::pruebas {
 
 using R5 = RespuestasApartado5;
-constexpr auto Antigua5 = EdicionApartado5::Hasta2014, Nueva5 = EdicionApartado5::Desde2015;
+constexpr auto Antigua5 = Edicion::Hasta2014, Nueva5 = Edicion::Desde2015;
 
 /// A question as the screen shows it.
 struct Pregunta5 {
@@ -60,12 +60,12 @@ inline constexpr Pregunta5 Preguntas5[] = {
 class PantallaApartado5 : public ConPantalla {
 protected:
     /// Opens an edition; without a date of its own the declaration gets one before any exception.
-    void abrir(EdicionApartado5 edicion = Antigua5) {
+    void abrir(Edicion edicion = Antigua5) {
         if (g.FECHAVIGOR == 0) g.FECHAVIGOR = edicion == Nueva5 ? 20150101 : 20131231;
         edicion_ = edicion;
         ConPantalla::abrir(std::make_unique<frmApartado5>(contexto(), d, edicion));
     }
-    void abrir(EdicionApartado5 edicion, qint32 fechaVigor) {
+    void abrir(Edicion edicion, qint32 fechaVigor) {
         g.FECHAVIGOR = fechaVigor;
         abrir(edicion);
     }
@@ -113,7 +113,7 @@ protected:
     cApartado5& r{d.apartado5};
 
 private:
-    EdicionApartado5 edicion_ = Antigua5;
+    Edicion edicion_ = Antigua5;
 };
 
 }  // namespace padral::pruebas

@@ -8,7 +8,7 @@ namespace {
 const QString Flecha = QStringLiteral(" ==>");
 
 struct Vista {
-    EdicionApartado5 edicion;
+    Edicion edicion;
     const char16_t* iva;
 };
 void PrintTo(const Vista& v, std::ostream* salida) {

@@ -13,7 +13,7 @@ namespace {
 struct Aspecto {
     bool euskera;
     double letra;
-    EdicionApartado5 edicion;
+    Edicion edicion;
 };
 void PrintTo(const Aspecto& a, std::ostream* salida) {
     *salida << (a.euskera ? "eu" : "es") << " x " << a.letra

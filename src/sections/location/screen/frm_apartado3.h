@@ -6,6 +6,7 @@
 #include <vector>
 
 #include "declaration/declaration.h"
+#include "declaration/edition.h"
 #include "ui/combo.h"
 #include "ui/fields.h"
 #include "ui/number_field.h"
@@ -21,15 +22,12 @@ class QRadioButton;
 
 namespace padral {
 
-/// The screen before and since the effective date of 1 January 2015. Only the later one asks
-/// resellers of mobile telephones.
-enum class EdicionApartado3 { Hasta2014, Desde2015 };
-
+/// One screen in two editions; only the later one asks resellers of mobile telephones.
 class FrmApartado3 : public Pantalla {
     Q_OBJECT
 public:
     /// The form name is "FrmApartado3" or "FrmApartado3_2015".
-    FrmApartado3(const Contexto& contexto, cDeclaraciones& declaracion, EdicionApartado3 edicion);
+    FrmApartado3(const Contexto& contexto, cDeclaraciones& declaracion, Edicion edicion);
 
     void Anadir_captions() override;
     void Cargar() override;
@@ -118,7 +116,7 @@ private:
 
     cDeclaraciones& declaracion_;
     cApartado3& apartado_;
-    const EdicionApartado3 edicion_;
+    const Edicion edicion_;
     /// While false, choosing a heading, a legal form or an option, and the free description,
     /// change nothing.
     bool activo_ = false;

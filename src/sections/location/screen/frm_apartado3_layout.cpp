@@ -35,10 +35,9 @@ bool deAnchoFijo(const QWidget* campo) { return campo->maximumWidth() < QWIDGETS
 
 }  // namespace
 
-FrmApartado3::FrmApartado3(const Contexto& contexto, cDeclaraciones& declaracion,
-                           EdicionApartado3 edicion)
-    : Pantalla(edicion == EdicionApartado3::Hasta2014 ? QStringLiteral("FrmApartado3")
-                                                      : QStringLiteral("FrmApartado3_2015"),
+FrmApartado3::FrmApartado3(const Contexto& contexto, cDeclaraciones& declaracion, Edicion edicion)
+    : Pantalla(edicion == Edicion::Hasta2014 ? QStringLiteral("FrmApartado3")
+                                             : QStringLiteral("FrmApartado3_2015"),
                contexto),
       declaracion_(declaracion),
       apartado_(declaracion.apartado3),
@@ -156,7 +155,7 @@ QWidget* FrmApartado3::crearActividad() {
     auto* libre = new QGridLayout;
     rotular(libre, u"lblactivecon", 697, txtSinEpigrafe_);
     caja->addLayout(libre);
-    if (edicion_ == EdicionApartado3::Desde2015) {
+    if (edicion_ == Edicion::Desde2015) {
         chkActVenMov_ = casilla(u"chkActVenMov", marco);
         caja->addLayout(casillaRotulada(chkActVenMov_, u"lblActRevMov", 880));
     }

@@ -5,6 +5,7 @@
 #include <vector>
 
 #include "declaration/declaration.h"
+#include "declaration/edition.h"
 #include "ui/answer_box.h"
 #include "ui/fields.h"
 #include "ui/screen.h"
@@ -24,15 +25,13 @@ struct Solicitud;
 
 class EtiquetaPuntos;
 
-/// The screen before and since the effective date of 1 January 2015. The later one asks for the
-/// customs quotas, and no longer for modules and travel agencies, whose answers it leaves alone.
-enum class EdicionApartado4 { Hasta2014, Desde2015 };
-
+/// One screen in two editions. The later one asks for the customs quotas, and no longer for modules
+/// and travel agencies, whose answers it leaves alone.
 class frmApartado4 : public Pantalla {
     Q_OBJECT
 public:
     /// The form name is "frmApartado4" or "frmApartado4_2015".
-    frmApartado4(const Contexto& contexto, cDeclaraciones& declaracion, EdicionApartado4 edicion);
+    frmApartado4(const Contexto& contexto, cDeclaraciones& declaracion, Edicion edicion);
 
     void Anadir_captions() override;
     void Cargar() override;
@@ -95,7 +94,7 @@ private:
 
     cDeclaraciones& declaracion_;
     cApartado4& apartado_;
-    const EdicionApartado4 edicion_;
+    const Edicion edicion_;
 
     std::vector<Fila> filas_;
     CampoTexto *txtNIF_, *txtNombre_;

@@ -41,7 +41,7 @@ void frmApartado4::presentarEntidad() {
 }
 
 bool frmApartado4::sinModulos() const {
-    return edicion_ == EdicionApartado4::Hasta2014 && declaracion_.general.FECHAVIGOR >= FinModulos;
+    return edicion_ == Edicion::Hasta2014 && declaracion_.general.FECHAVIGOR >= FinModulos;
 }
 
 void frmApartado4::Presentabotones() {

@@ -37,10 +37,9 @@ QFrame* raya(QWidget* padre) {
 
 }  // namespace
 
-frmApartado4::frmApartado4(const Contexto& contexto, cDeclaraciones& declaracion,
-                           EdicionApartado4 edicion)
-    : Pantalla(edicion == EdicionApartado4::Hasta2014 ? QStringLiteral("frmApartado4")
-                                                      : QStringLiteral("frmApartado4_2015"),
+frmApartado4::frmApartado4(const Contexto& contexto, cDeclaraciones& declaracion, Edicion edicion)
+    : Pantalla(edicion == Edicion::Hasta2014 ? QStringLiteral("frmApartado4")
+                                             : QStringLiteral("frmApartado4_2015"),
                contexto),
       declaracion_(declaracion),
       apartado_(declaracion.apartado4),
@@ -67,7 +66,7 @@ frmApartado4::frmApartado4(const Contexto& contexto, cDeclaraciones& declaracion
 bool frmApartado4::existe(const Solicitud& solicitud) const {
     if (!solicitud.propiedad) return false;
     if (solicitud.ediciones == En::Ambas) return true;
-    return (solicitud.ediciones == En::SoloHasta2014) == (edicion_ == EdicionApartado4::Hasta2014);
+    return (solicitud.ediciones == En::SoloHasta2014) == (edicion_ == Edicion::Hasta2014);
 }
 
 void frmApartado4::crearBloque(const Bloque& bloque, QGridLayout* rejilla) {

@@ -45,7 +45,7 @@ void frmApartado5::ActualizarBotones() {
     // The picture follows its button.
     botones_->Habilitar(Siguiente, std::any_of(marcas.begin(), marcas.end(),
                                                [](const auto* marca) { return Marcado(*marca); }));
-    if (edicion_ == EdicionApartado5::Desde2015 || g.FECHAVIGOR < FinModulos) return;
+    if (edicion_ == Edicion::Desde2015 || g.FECHAVIGOR < FinModulos) return;
     apartado_.IRPFOBJETIVA = QStringLiteral("N");
     for (const auto& fila : filas_)
         if (fila.pregunta->respuesta == &R5::IRPFOBJETIVA) esconder(fila);

@@ -5,6 +5,7 @@
 #include <vector>
 
 #include "declaration/declaration.h"
+#include "declaration/edition.h"
 #include "ui/answer_box.h"
 #include "ui/screen.h"
 #include "ui/section_buttons.h"
@@ -21,15 +22,13 @@ struct Rotulo;
 enum class Zona;
 }  // namespace apartado5
 
-/// The screen before and since the effective date of 1 January 2015. The later one asks neither
-/// for modules nor for the global base of travel agencies.
-enum class EdicionApartado5 { Hasta2014, Desde2015 };
-
+/// One screen in two editions. The later one asks neither for modules nor for the global base of
+/// travel agencies.
 class frmApartado5 : public Pantalla {
     Q_OBJECT
 public:
     /// The form name is "frmApartado5" or "frmApartado5_2015".
-    frmApartado5(const Contexto& contexto, cDeclaraciones& declaracion, EdicionApartado5 edicion);
+    frmApartado5(const Contexto& contexto, cDeclaraciones& declaracion, Edicion edicion);
 
     void Anadir_captions() override;
     void Cargar() override;
@@ -84,7 +83,7 @@ private:
 
     cDeclaraciones& declaracion_;
     cApartado5& apartado_;
-    const EdicionApartado5 edicion_;
+    const Edicion edicion_;
     /// While the boxes are brought in line with the record a click is none.
     bool refrescando_ = false;
 

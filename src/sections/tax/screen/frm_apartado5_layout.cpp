@@ -46,15 +46,14 @@ QGridLayout* nuevaRejilla() {
     return rejilla;
 }
 
-QString nombreFormulario(EdicionApartado5 edicion) {
-    return edicion == EdicionApartado5::Hasta2014 ? QStringLiteral("frmApartado5")
-                                                  : QStringLiteral("frmApartado5_2015");
+QString nombreFormulario(Edicion edicion) {
+    return edicion == Edicion::Hasta2014 ? QStringLiteral("frmApartado5")
+                                         : QStringLiteral("frmApartado5_2015");
 }
 
 }  // namespace
 
-frmApartado5::frmApartado5(const Contexto& contexto, cDeclaraciones& declaracion,
-                           EdicionApartado5 edicion)
+frmApartado5::frmApartado5(const Contexto& contexto, cDeclaraciones& declaracion, Edicion edicion)
     : Pantalla(nombreFormulario(edicion), contexto),
       declaracion_(declaracion),
       apartado_(declaracion.apartado5),
@@ -88,7 +87,7 @@ QLabel* frmApartado5::crearRotulo(const Rotulo& rotulo, QWidget* padre) {
 }
 
 bool frmApartado5::sePregunta(const Pregunta& pregunta) const {
-    return edicion_ == EdicionApartado5::Hasta2014 || !pregunta.soloHasta2014;
+    return edicion_ == Edicion::Hasta2014 || !pregunta.soloHasta2014;
 }
 
 /// The questions of a zone in two columns.
