@@ -221,7 +221,7 @@ TEST_F(Programa, TourLeavesPicturesAndPrintedPages) {
     const QDir salida(carpeta_.filePath(Salida));
     // Two copies in each language.
     EXPECT_EQ(salida.entryList({QStringLiteral("417-A12345674-*.pdf")}).size(), 4);
-    EXPECT_EQ(salida.entryList({QStringLiteral("*.png")}).size(), 40);
+    EXPECT_EQ(salida.entryList({QStringLiteral("*.png")}).size(), 46);
 }
 
 }  // namespace

@@ -1,6 +1,7 @@
 // The tour: the real program, offscreen, driven through its real widgets. It enters declarations,
 // saves, finds, opens and prints them, and leaves a picture of every screen and the printed PDF.
 
+#include <QCheckBox>
 #include <QDir>
 #include <QFile>
 #include <QTextStream>
@@ -62,6 +63,7 @@ private:
     void declararSituacion();
     void escribir(const std::vector<std::pair<const char*, const char16_t*>>& campos);
     void declararPersona();
+    void mirarEdicionesAnteriores();
     void buscar();
     void imprimir();
     void foto(const QString& nombre) { guia_->Foto(idioma_ + u'-' + nombre); }
@@ -211,7 +213,21 @@ void Visita::declararPersona() {
     foto(QStringLiteral("15-help"));
     guia_->Tecla(Qt::Key_Escape);
     guia_->TomarVentana();
+    mirarEdicionesAnteriores();
     guia_->Pulsar(QStringLiteral("cmdAceptar"));
+}
+
+// Without an effective date the sections open in their edition before 2015.
+void Visita::mirarEdicionesAnteriores() {
+    for (const int apartado : {3, 4, 5}) {
+        const QString casilla = QStringLiteral("chkApartado%1").arg(apartado);
+        if (!guia_->Busca<QCheckBox>(casilla)->isChecked()) guia_->Pulsar(casilla);
+        guia_->Pulsar(QStringLiteral("cmdApartado%1").arg(apartado));
+        if (apartado == 5) guia_->Pulsar(QStringLiteral("chk28"));
+        foto(QStringLiteral("%1-section%2-2014").arg(apartado + 18).arg(apartado));
+        while (!programa_->ventana().findChild<QWidget*>(QStringLiteral("FrmDatGen")))
+            guia_->Pulsar(QStringLiteral("cmdCancelar"));
+    }
 }
 
 void Visita::buscar() {
