@@ -194,10 +194,14 @@ QString cDeclaraciones::PrepararAnexoI() {
     return NumParti != 0 ? PantallaLista : prepararParticipe();
 }
 
-QString cDeclaraciones::prepararParticipe() {
+cParticipes& cDeclaraciones::EmpezarParticipe() {
     participantes.ParticipeActual = nuevoParticipe();
     participantes.ParticipeActual->Modo = QStringLiteral("A");
-    participantes.ParticipeActual->MODIFPARTICIPES = true;
+    return *participantes.ParticipeActual;
+}
+
+QString cDeclaraciones::prepararParticipe() {
+    EmpezarParticipe().MODIFPARTICIPES = true;
     return PantallaParticipe;
 }
 

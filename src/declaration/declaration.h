@@ -46,6 +46,10 @@ public:
     /// The same, with a new participant made ready for that screen.
     QString PrepararAnexoI();
 
+    /// A blank new participant, mode "A", becomes the current one. The one before is left as it is:
+    /// it may be in the collection.
+    cParticipes& EmpezarParticipe();
+
     void IncrementarNumParti() { cambiarNumParti(1); }
     void DecrementarNumParti() { cambiarNumParti(-1); }
     /// Empties the `Modo` of the declaration, of the list and of the participant record.

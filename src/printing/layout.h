@@ -14,6 +14,10 @@ struct DatosApartado2;
 struct DatosApartado3;
 struct DatosApartado4;
 struct RespuestasApartado5;
+struct DatosApartado6;
+struct DatosApartado7;
+struct DatosAnexoII;
+struct Participantes;
 
 /// The records that the pages read. Printing changes none of them.
 struct RegistrosImpresos {
@@ -22,6 +26,10 @@ struct RegistrosImpresos {
     const DatosApartado3& apartado3;
     const DatosApartado4& apartado4;
     const RespuestasApartado5& apartado5;
+    const DatosApartado6& apartado6;
+    const DatosApartado7& apartado7;
+    const Participantes& participantes;
+    const DatosAnexoII& anexoII;
 };
 
 /// What the routines of a page work with.

@@ -144,7 +144,8 @@ void FrmImOf::Aceptar() {
     }
     Imprimir modulo(estado_,
                     {declaracion_.general, declaracion_.apartado2, declaracion_.apartado3,
-                     declaracion_.apartado4, declaracion_.apartado5},
+                     declaracion_.apartado4, declaracion_.apartado5, declaracion_.apartado6,
+                     declaracion_.apartado7, declaracion_.participantes, declaracion_.anexoII},
                     destino_);
     for (const QString& copia : CopiasPedidas(opciones())) modulo.ImprimirDeclaracion(copia);
     avisarFicheros();

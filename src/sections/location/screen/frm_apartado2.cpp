@@ -14,6 +14,8 @@ using namespace apartado2;
 
 namespace {
 
+constexpr int EsteApartado = 2;
+
 constexpr int TituloPantalla = 93;
 constexpr int TextoElMismo = 796;
 constexpr int EntreDomicilios = 8;
@@ -31,8 +33,7 @@ QString nombreDe(const char16_t* campo, const char16_t* sufijo) {
 }  // namespace
 
 FrmApartado2::FrmApartado2(const Contexto& contexto, cDeclaraciones& declaracion)
-    : Pantalla(QStringLiteral("FrmApartado2"), contexto),
-      declaracion_(declaracion),
+    : PantallaApartado(QStringLiteral("FrmApartado2"), contexto, declaracion, EsteApartado),
       registro_(declaracion.apartado2) {
     auto* todo = new QVBoxLayout(this);
     todo->setSpacing(EntreDomicilios);
@@ -40,9 +41,7 @@ FrmApartado2::FrmApartado2(const Contexto& contexto, cDeclaraciones& declaracion
     todo->addWidget(titulo_);
     for (std::size_t i = 0; i < NumDomicilios; ++i) todo->addWidget(crearDomicilio(i));
     todo->addStretch(1);
-    botones_ = new BotonesApartado(BotonesAlPie, BotonesAlPrincipio, this);
-    todo->addWidget(botones_);
-    conectarBotones();
+    todo->addWidget(crearBotones(BotonesAlPie));
 }
 
 FrmApartado2::~FrmApartado2() {
@@ -95,13 +94,6 @@ void FrmApartado2::crearDireccion(std::size_t i, QWidget* marco) {
         PresentarDatos();
         ActualizarEstadoControles();
     };
-}
-
-void FrmApartado2::conectarBotones() {
-    Orden(botones_->Boton(Inicio), [this] { inicio(); });
-    Orden(botones_->Boton(Cancelar), [this] { cancelar(); });
-    Orden(botones_->Boton(Anterior), [this] { anterior(); });
-    Orden(botones_->Boton(Siguiente), [this] { siguiente(); });
 }
 
 void FrmApartado2::Anadir_captions() {

@@ -5,17 +5,14 @@
 #include <QLabel>
 #include <array>
 
-#include "declaration/declaration.h"
+#include "declaration/screen/section_screen.h"
 #include "sections/location/screen/address_block_widget.h"
-#include "ui/screen.h"
 
 class QHBoxLayout;
 
 namespace padral {
 
-class BotonesApartado;
-
-class FrmApartado2 : public Pantalla {
+class FrmApartado2 : public PantallaApartado {
     Q_OBJECT
 public:
     FrmApartado2(const Contexto& contexto, cDeclaraciones& declaracion);
@@ -41,7 +38,6 @@ private:
     QWidget* crearDomicilio(std::size_t i);
     void crearMarca(std::size_t i, QHBoxLayout* cabeza);
     void crearDireccion(std::size_t i, QWidget* marco);
-    void conectarBotones();
     void CargarListas();
 
     // Marks and ways out, in frm_apartado2_commands.cpp.
@@ -50,21 +46,17 @@ private:
     /// Empties the controls of a domicile and turns them off, or on again.
     void AplicarElMismo(QStringView sufijo, bool valor);
     int controlesConDatos(QStringView sufijo) const;
-    bool haySiguiente() const;
-    bool aceptar();
-    void siguiente();
-    void anterior();
-    void inicio();
-    void cancelar();
-    void salir();
+    bool aceptado() override;
+    void descartar() override;
+    /// To the general data, whatever stands before.
+    void trasCancelar() override { irAGenerales(); }
+    void descargar() override;
 
-    cDeclaraciones& declaracion_;
     cApartado2& registro_;
     QLabel* titulo_;
     std::array<QLabel*, NumDomicilios> titulos_{};
     std::array<QCheckBox*, NumDomicilios> marcas_{};  ///< nullptr for the fiscal domicile
     std::array<PanelDireccion*, NumDomicilios> direcciones_{};
-    BotonesApartado* botones_;
     bool despedida_ = false;
 };
 

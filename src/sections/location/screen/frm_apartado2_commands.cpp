@@ -12,7 +12,6 @@ using namespace apartado2;
 
 namespace {
 
-constexpr int EsteApartado = 2;
 constexpr qsizetype LargoSufijo = 3;
 
 /// The names of controls are compared in capitals.
@@ -89,14 +88,6 @@ int FrmApartado2::controlesConDatos(QStringView sufijo) const {
     }));
 }
 
-bool FrmApartado2::haySiguiente() const {
-    const cDatosGenerales& g = declaracion_.general;
-    const auto marcas = {&g.Apartado3, &g.Apartado4, &g.Apartado5, &g.Apartado6,
-                         &g.Apartado7, &g.AnexoI,    &g.AnexoII};
-    return std::any_of(marcas.begin(), marcas.end(),
-                       [](const QString* marca) { return Marcado(*marca); });
-}
-
 void FrmApartado2::ActualizarEstadoControles() {
     const bool hayFiscal = controlesConDatos(sufijoDe(Domicilios[0])) > 0;
     for (std::size_t i = 0; i < NumDomicilios; ++i) {
@@ -106,8 +97,7 @@ void FrmApartado2::ActualizarEstadoControles() {
         }
         direcciones_[i]->ActualizarBotones();
     }
-    // The picture beside the button follows it.
-    botones_->Habilitar(Siguiente, haySiguiente());
+    actualizarSiguiente();
 }
 
 bool FrmApartado2::ValidarDatos() {
@@ -123,7 +113,7 @@ bool FrmApartado2::ValidarDatos() {
     return true;
 }
 
-bool FrmApartado2::aceptar() {
+bool FrmApartado2::aceptado() {
     if (!ValidarDatos()) return false;
     if (!registro_.Modificaciones) return true;
     registro_.Lleno = true;
@@ -133,37 +123,15 @@ bool FrmApartado2::aceptar() {
     return true;
 }
 
-void FrmApartado2::siguiente() {
-    if (aceptar() && declaracion_.IrApartadoSiguiente(EsteApartado)) salir();
+void FrmApartado2::descartar() {
+    if (!registro_.Modificaciones) return;
+    registro_.Modificaciones = false;
+    registro_.ObtenerDatosTablaAuxiliar();
 }
 
-void FrmApartado2::anterior() {
-    if (!aceptar()) return;
-    declaracion_.IrApartadoAnterior(EsteApartado, objectName());
-    salir();
-}
-
-void FrmApartado2::inicio() {
-    if (!aceptar()) return;
-    // Otherwise the general data would load the stored declaration over the work.
-    estado_.FormularioOrigen = objectName();
-    pantallas_.Mostrar(QStringLiteral("FrmDatGen"));
-    salir();
-}
-
-void FrmApartado2::cancelar() {
-    if (registro_.Modificaciones) {
-        registro_.Modificaciones = false;
-        registro_.ObtenerDatosTablaAuxiliar();
-    }
-    estado_.FormularioOrigen = objectName();
-    pantallas_.Mostrar(QStringLiteral("FrmDatGen"));
-    salir();
-}
-
-void FrmApartado2::salir() {
+void FrmApartado2::descargar() {
     despedida_ = true;
-    pantallas_.Descargar(objectName());
+    PantallaApartado::descargar();
 }
 
 }  // namespace padral

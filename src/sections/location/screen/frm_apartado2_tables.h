@@ -59,15 +59,11 @@ inline constexpr struct {
     const char16_t *regular, *nombre;
 } NombresPropios[] = {{u"numCodAct", u"numCodact"}, {u"lblViaFis", u"lblVia"}};
 
-enum Boton : std::size_t { Inicio, Cancelar, Anterior, Siguiente };
-
 inline constexpr std::array<BotonApartado, 4> BotonesAlPie = {{
     {u"cmdInicio", u"PicInicio", u"home", 670, 671},
     {u"cmdCancelar", u"PicCan", u"cancel", 14, 96},
     {u"cmdApartadoAnterior", u"PicAnterior", u"back", 95, 11},
     {u"cmdApartadoSiguiente", u"PicSiguiente", u"next", 94, 13},
 }};
-/// Those that leave the chain of sections stand at the left edge.
-inline constexpr std::size_t BotonesAlPrincipio = 2;
 
 }  // namespace padral::apartado2

@@ -44,7 +44,7 @@ bool FrmApartado3::eventFilter(QObject* objeto, QEvent* evento) {
         focusNextPrevChild(true);
         return true;
     }
-    return Pantalla::eventFilter(objeto, evento);
+    return PantallaApartado::eventFilter(objeto, evento);
 }
 
 bool FrmApartado3::filtrarOpcion(std::size_t i, QEvent* evento) {

@@ -5,14 +5,12 @@
 #include <array>
 #include <vector>
 
-#include "declaration/declaration.h"
 #include "declaration/edition.h"
+#include "declaration/screen/section_screen.h"
 #include "ui/combo.h"
 #include "ui/fields.h"
 #include "ui/number_field.h"
 #include "ui/option_pair.h"
-#include "ui/screen.h"
-#include "ui/section_buttons.h"
 
 class QBoxLayout;
 class QButtonGroup;
@@ -23,7 +21,7 @@ class QRadioButton;
 namespace padral {
 
 /// One screen in two editions; only the later one asks resellers of mobile telephones.
-class FrmApartado3 : public Pantalla {
+class FrmApartado3 : public PantallaApartado {
     Q_OBJECT
 public:
     /// The form name is "FrmApartado3" or "FrmApartado3_2015".
@@ -106,15 +104,9 @@ private:
     bool filtrarOpcion(std::size_t i, QEvent* evento);
 
     // Leaving, in frm_apartado3_commands.cpp.
-    void conectarBotones();
-    bool aceptado();
-    void siguiente();
-    void anterior();
-    void inicio();
-    void cancelar();
-    void volver();
+    bool aceptado() override;
+    void descartar() override;
 
-    cDeclaraciones& declaracion_;
     cApartado3& apartado_;
     const Edicion edicion_;
     /// While false, choosing a heading, a legal form or an option, and the free description,
@@ -133,7 +125,6 @@ private:
     CampoTexto* txtDirCorreo_;
     std::array<CajaNum*, 4> numeros_{};  ///< of the channels; e-mail has none
     std::vector<ParejaCasillas*> parejas_;
-    BotonesApartado* botones_;
     /// Captions that are just a text of the catalogue.
     std::vector<std::pair<QLabel*, int>> etiquetas_;
     /// Frames and the text that names them.

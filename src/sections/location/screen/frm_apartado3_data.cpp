@@ -155,15 +155,7 @@ void FrmApartado3::presentarCanales() {
     }
 }
 
-void FrmApartado3::ActualizarEstadoControles() {
-    const auto& g = declaracion_.general;
-    bool sigue = false;
-    for (const auto* bandera :
-         {&g.Apartado4, &g.Apartado5, &g.Apartado6, &g.Apartado7, &g.AnexoI, &g.AnexoII})
-        sigue = sigue || Marcado(*bandera);
-    // The picture follows its button.
-    botones_->Habilitar(apartado3::Siguiente, sigue);
-}
+void FrmApartado3::ActualizarEstadoControles() { actualizarSiguiente(); }
 
 void FrmApartado3::cambiado() {
     apartado_.Modificaciones = true;

@@ -14,6 +14,8 @@ namespace padral {
 
 namespace {
 
+constexpr int NumeroApartado = 3;
+
 constexpr int TituloPantalla = 136;
 constexpr int AnchoCodigo = 7;
 constexpr int AnchoSinEpigrafe = 30;
@@ -36,10 +38,9 @@ bool deAnchoFijo(const QWidget* campo) { return campo->maximumWidth() < QWIDGETS
 }  // namespace
 
 FrmApartado3::FrmApartado3(const Contexto& contexto, cDeclaraciones& declaracion, Edicion edicion)
-    : Pantalla(edicion == Edicion::Hasta2014 ? QStringLiteral("FrmApartado3")
-                                             : QStringLiteral("FrmApartado3_2015"),
-               contexto),
-      declaracion_(declaracion),
+    : PantallaApartado(edicion == Edicion::Hasta2014 ? QStringLiteral("FrmApartado3")
+                                                     : QStringLiteral("FrmApartado3_2015"),
+                       contexto, declaracion, NumeroApartado),
       apartado_(declaracion.apartado3),
       edicion_(edicion),
       grupoResidente_(new QButtonGroup(this)) {
@@ -57,12 +58,10 @@ FrmApartado3::FrmApartado3(const Contexto& contexto, cDeclaraciones& declaracion
     columnas->addWidget(crearAdicionales(), 1);
     todo->addLayout(columnas);
     todo->addStretch(1);
-    botones_ = new BotonesApartado(apartado3::BotonesAlPie, apartado3::BotonesAlPrincipio, this);
-    todo->addWidget(botones_);
+    todo->addWidget(crearBotones(apartado3::BotonesAlPie));
     conectarCampos();
     conectarActividad();
     conectarCasillas();
-    conectarBotones();
 }
 
 QLabel* FrmApartado3::etiquetaDe(const char16_t* nombre, int texto, QWidget* campo) {

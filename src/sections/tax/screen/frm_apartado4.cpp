@@ -3,8 +3,8 @@
 #include <QEvent>
 
 #include "sections/tax/screen/frm_apartado4_tables.h"
-#include "sections/tax/screen/review_messages.h"
 #include "sections/tax/section4_rules.h"
+#include "ui/review_messages.h"
 
 namespace padral {
 
@@ -21,15 +21,13 @@ QWidget* frmApartado4::FocoInicial() {
     return nullptr;
 }
 
-void frmApartado4::IrAInicio() { botones_->Boton(apartado4::Inicio)->click(); }
-
 // A locked field passes the focus on.
 bool frmApartado4::eventFilter(QObject* objeto, QEvent* evento) {
     if (evento->type() == QEvent::FocusIn)
         for (const auto* campo : {txtNIF_, txtNombre_})
             if (objeto == campo && EstaBloqueado(campo))
-                botones_->Boton(apartado4::Cancelar)->setFocus(Qt::OtherFocusReason);
-    return Pantalla::eventFilter(objeto, evento);
+                botones_->Boton(Cancelar)->setFocus(Qt::OtherFocusReason);
+    return PantallaApartado::eventFilter(objeto, evento);
 }
 
 void frmApartado4::conectarCampos() {

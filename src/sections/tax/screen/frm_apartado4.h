@@ -4,12 +4,10 @@
 #include <array>
 #include <vector>
 
-#include "declaration/declaration.h"
 #include "declaration/edition.h"
+#include "declaration/screen/section_screen.h"
 #include "ui/answer_box.h"
 #include "ui/fields.h"
-#include "ui/screen.h"
-#include "ui/section_buttons.h"
 
 class QGridLayout;
 
@@ -27,7 +25,7 @@ class EtiquetaPuntos;
 
 /// One screen in two editions. The later one asks for the customs quotas, and no longer for modules
 /// and travel agencies, whose answers it leaves alone.
-class frmApartado4 : public Pantalla {
+class frmApartado4 : public PantallaApartado {
     Q_OBJECT
 public:
     /// The form name is "frmApartado4" or "frmApartado4_2015".
@@ -41,8 +39,6 @@ public:
     void PresentaDatos();
     /// Ways on. From 2014 the earlier edition no longer asks for modules and empties that answer.
     void Presentabotones();
-    /// The way out to the general data, as its button goes it.
-    void IrAInicio();
 
 protected:
     bool eventFilter(QObject* objeto, QEvent* evento) override;
@@ -84,22 +80,15 @@ private:
     bool guardarTexto(CampoTexto* campo, TextoFijo<N> DatosApartado4::*propiedad);
 
     // Leaving, in frm_apartado4_commands.cpp.
-    void conectarBotones();
-    bool aceptado();
-    void siguiente();
-    void anterior();
-    void inicio();
-    void cancelar();
-    void volver();
+    bool aceptado() override;
+    void descartar() override;
 
-    cDeclaraciones& declaracion_;
     cApartado4& apartado_;
     const Edicion edicion_;
 
     std::vector<Fila> filas_;
     CampoTexto *txtNIF_, *txtNombre_;
     EtiquetaPuntos* lblSONF_ = nullptr;
-    BotonesApartado* botones_;
     /// Captions that are just a text of the catalogue.
     std::vector<std::pair<QLabel*, int>> etiquetas_;
 };

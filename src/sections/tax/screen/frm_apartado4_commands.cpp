@@ -1,24 +1,10 @@
 // Leaving section 4.
 
 #include "sections/tax/screen/frm_apartado4.h"
-#include "sections/tax/screen/frm_apartado4_tables.h"
-#include "sections/tax/screen/review_messages.h"
 #include "sections/tax/section4_rules.h"
+#include "ui/review_messages.h"
 
 namespace padral {
-
-namespace {
-
-constexpr int NumeroApartado = 4;
-
-}  // namespace
-
-void frmApartado4::conectarBotones() {
-    Orden(botones_->Boton(apartado4::Inicio), [this] { inicio(); });
-    Orden(botones_->Boton(apartado4::Cancelar), [this] { cancelar(); });
-    Orden(botones_->Boton(apartado4::Anterior), [this] { anterior(); });
-    Orden(botones_->Boton(apartado4::Siguiente), [this] { siguiente(); });
-}
 
 bool frmApartado4::aceptado() {
     const qint32 fechaVigor = declaracion_.general.FECHAVIGOR;
@@ -33,35 +19,10 @@ bool frmApartado4::aceptado() {
     return true;
 }
 
-void frmApartado4::siguiente() {
-    if (!aceptado()) return;
-    if (declaracion_.IrApartadoSiguiente(NumeroApartado)) pantallas_.Descargar(objectName());
-}
-
-void frmApartado4::anterior() {
-    if (aceptado()) volver();
-}
-
-void frmApartado4::inicio() {
-    if (!aceptado()) return;
-    // The general data tell by this name that there is nothing to load.
-    estado_.FormularioOrigen = objectName();
-    pantallas_.Mostrar(QStringLiteral("FrmDatGen"));
-    pantallas_.Descargar(objectName());
-}
-
-void frmApartado4::cancelar() {
-    if (apartado_.MODIFAPARTADO4) {
-        apartado_.MODIFAPARTADO4 = false;
-        apartado_.RecuperarDatosAuxiliares();
-    }
-    volver();
-}
-
-void frmApartado4::volver() {
-    const QString nombre = objectName();
-    declaracion_.IrApartadoAnterior(NumeroApartado, nombre);
-    pantallas_.Descargar(nombre);
+void frmApartado4::descartar() {
+    if (!apartado_.MODIFAPARTADO4) return;
+    apartado_.MODIFAPARTADO4 = false;
+    apartado_.RecuperarDatosAuxiliares();
 }
 
 }  // namespace padral

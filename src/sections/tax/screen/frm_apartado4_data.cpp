@@ -45,12 +45,7 @@ bool frmApartado4::sinModulos() const {
 }
 
 void frmApartado4::Presentabotones() {
-    const auto& g = declaracion_.general;
-    bool sigue = false;
-    for (const auto* bandera : {&g.Apartado5, &g.Apartado6, &g.Apartado7, &g.AnexoI, &g.AnexoII})
-        sigue = sigue || Marcado(*bandera);
-    // The picture follows its button.
-    botones_->Habilitar(Siguiente, sigue);
+    actualizarSiguiente();
     if (!sinModulos()) return;
     apartado_.IRPFOBJET = QString();
     for (const auto& fila : filas_) {

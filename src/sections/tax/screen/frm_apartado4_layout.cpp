@@ -15,6 +15,8 @@ using namespace apartado4;
 
 namespace {
 
+constexpr int NumeroApartado = 4;
+
 constexpr int TituloPantalla = 1;
 constexpr Rotulo RotuloNif{u"Label11", 21}, RotuloNombre{u"Label12", 20};
 constexpr int AnchoNif = 9, AnchoNombre = 40;
@@ -38,10 +40,9 @@ QFrame* raya(QWidget* padre) {
 }  // namespace
 
 frmApartado4::frmApartado4(const Contexto& contexto, cDeclaraciones& declaracion, Edicion edicion)
-    : Pantalla(edicion == Edicion::Hasta2014 ? QStringLiteral("frmApartado4")
-                                             : QStringLiteral("frmApartado4_2015"),
-               contexto),
-      declaracion_(declaracion),
+    : PantallaApartado(edicion == Edicion::Hasta2014 ? QStringLiteral("frmApartado4")
+                                                     : QStringLiteral("frmApartado4_2015"),
+                       contexto, declaracion, NumeroApartado),
       apartado_(declaracion.apartado4),
       edicion_(edicion) {
     auto* todo = new QVBoxLayout(this);
@@ -56,11 +57,9 @@ frmApartado4::frmApartado4(const Contexto& contexto, cDeclaraciones& declaracion
     for (const auto& bloque : Bloques) crearBloque(bloque, rejilla);
     todo->addLayout(rejilla);
     todo->addStretch(1);
-    botones_ = new BotonesApartado(BotonesAlPie, BotonesAlPrincipio, this);
-    todo->addWidget(botones_);
+    todo->addWidget(crearBotones(BotonesAlPie));
     conectarCasillas();
     conectarCampos();
-    conectarBotones();
 }
 
 bool frmApartado4::existe(const Solicitud& solicitud) const {

@@ -39,13 +39,9 @@ void frmApartado5::Refrescar() {
 }
 
 void frmApartado5::ActualizarBotones() {
-    const auto& g = declaracion_.general;
-    const auto marcas = {&g.Apartado6, &g.Apartado7, &g.AnexoI, &g.AnexoII};
     botones_->Boton(Siguiente)->show();
-    // The picture follows its button.
-    botones_->Habilitar(Siguiente, std::any_of(marcas.begin(), marcas.end(),
-                                               [](const auto* marca) { return Marcado(*marca); }));
-    if (edicion_ == Edicion::Desde2015 || g.FECHAVIGOR < FinModulos) return;
+    actualizarSiguiente();
+    if (edicion_ == Edicion::Desde2015 || declaracion_.general.FECHAVIGOR < FinModulos) return;
     apartado_.IRPFOBJETIVA = QStringLiteral("N");
     for (const auto& fila : filas_)
         if (fila.pregunta->respuesta == &R5::IRPFOBJETIVA) esconder(fila);

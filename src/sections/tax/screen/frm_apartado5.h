@@ -4,11 +4,9 @@
 #include <array>
 #include <vector>
 
-#include "declaration/declaration.h"
 #include "declaration/edition.h"
+#include "declaration/screen/section_screen.h"
 #include "ui/answer_box.h"
-#include "ui/screen.h"
-#include "ui/section_buttons.h"
 
 class QGridLayout;
 class QGroupBox;
@@ -24,7 +22,7 @@ enum class Zona;
 
 /// One screen in two editions. The later one asks neither for modules nor for the global base of
 /// travel agencies.
-class frmApartado5 : public Pantalla {
+class frmApartado5 : public PantallaApartado {
     Q_OBJECT
 public:
     /// The form name is "frmApartado5" or "frmApartado5_2015".
@@ -35,7 +33,6 @@ public:
     QWidget* FocoInicial() override { return filas_.front().si; }
 
     /// Leaves for the general data as `cmdInicio` does, for the main window.
-    void IrAInicio();
 
 private:
     struct FilaPregunta {
@@ -73,15 +70,9 @@ private:
     void cerrarRamas(bool si, bool repetida);
 
     // Leaving, in frm_apartado5_commands.cpp.
-    void conectarBotones();
-    bool aceptado();
-    void siguiente();
-    void anterior();
-    void inicio();
-    void cancelar();
-    void volver();
+    bool aceptado() override;
+    void descartar() override;
 
-    cDeclaraciones& declaracion_;
     cApartado5& apartado_;
     const Edicion edicion_;
     /// While the boxes are brought in line with the record a click is none.
@@ -93,7 +84,6 @@ private:
     std::vector<QWidget*> cabecerasSi_, cabecerasNo_;
     /// Captions that are just a text of the catalogue.
     std::vector<std::pair<QLabel*, int>> etiquetas_;
-    BotonesApartado* botones_;
 };
 
 }  // namespace padral

@@ -16,6 +16,8 @@ using namespace apartado5;
 
 namespace {
 
+constexpr int NumeroApartado = 5;
+
 constexpr int TituloPantalla = 187;
 constexpr int EntreFilas = 6;
 constexpr int EntreColumnas = 28;
@@ -54,8 +56,7 @@ QString nombreFormulario(Edicion edicion) {
 }  // namespace
 
 frmApartado5::frmApartado5(const Contexto& contexto, cDeclaraciones& declaracion, Edicion edicion)
-    : Pantalla(nombreFormulario(edicion), contexto),
-      declaracion_(declaracion),
+    : PantallaApartado(nombreFormulario(edicion), contexto, declaracion, NumeroApartado),
       apartado_(declaracion.apartado5),
       edicion_(edicion) {
     auto* todo = new QVBoxLayout(this);
@@ -73,10 +74,8 @@ frmApartado5::frmApartado5(const Contexto& contexto, cDeclaraciones& declaracion
     const QMargins marco = paneles_[0]->contentsMargins();
     arriba_->setContentsMargins(marco.left() + MargenZona, 0, marco.right() + MargenZona, 0);
     todo->addStretch(1);
-    botones_ = new BotonesApartado(BotonesAlPie, BotonesAlPrincipio, this);
-    todo->addWidget(botones_);
+    todo->addWidget(crearBotones(BotonesAlPie));
     conectarCasillas();
-    conectarBotones();
 }
 
 QLabel* frmApartado5::crearRotulo(const Rotulo& rotulo, QWidget* padre) {

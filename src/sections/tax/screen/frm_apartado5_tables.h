@@ -3,8 +3,8 @@
 
 #include <array>
 
+#include "declaration/screen/section_screen.h"
 #include "sections/tax/section5.h"
-#include "ui/section_buttons.h"
 
 namespace padral::apartado5 {
 
@@ -111,15 +111,6 @@ inline constexpr std::array<PulsacionIva, 4> PulsacionesIva = {{
     {false, true, true, true},
 }};
 
-enum Boton : std::size_t { Inicio, Cancelar, Anterior, Siguiente };
-
-inline constexpr std::array<BotonApartado, 4> BotonesAlPie = {{
-    {u"cmdInicio", u"PicInicio", u"home", 670, 671},
-    {u"cmdCancelar", u"PicCan", u"cancel", 14, 15},
-    {u"cmdAnterior", u"PicAnterior", u"back", 10, 11},
-    {u"cmdSiguiente", u"PicSiguiente", u"next", 12, 13},
-}};
-/// Those that leave the chain of sections stand at the left edge.
-inline constexpr std::size_t BotonesAlPrincipio = 2;
+inline constexpr auto BotonesAlPie = BotonesHabituales(15);
 
 }  // namespace padral::apartado5

@@ -1,4 +1,4 @@
-#include "sections/tax/screen/review_messages.h"
+#include "ui/review_messages.h"
 
 #include <QWidget>
 
@@ -8,7 +8,8 @@ bool Avisar(const EstadoCompartido& estado, const QWidget& pantalla, const Revis
     for (const auto& aviso : revision.avisos) {
         const QString titulo = QString::fromUtf16(aviso.prefijo) + estado.Texto(aviso.titulo);
         const Icono icono = aviso.exclamacion ? Icono::Exclamacion : Icono::Informacion;
-        estado.avisador.Mostrar({estado.Texto(aviso.texto), titulo, icono, Botones::Aceptar});
+        const QString& texto = aviso.texto == 0 ? revision.compuesto : estado.Texto(aviso.texto);
+        estado.avisador.Mostrar({texto, titulo, icono, Botones::Aceptar});
         const QString foco = QString::fromUtf16(aviso.foco);
         if (foco.isEmpty()) continue;
         if (auto* control = pantalla.findChild<QWidget*>(foco))

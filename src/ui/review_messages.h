@@ -1,8 +1,8 @@
 #pragma once
 // What a check of the rules found, told on the screen.
 
+#include "core/review.h"
 #include "core/shared_state.h"
-#include "sections/tax/tax_rules.h"
 
 class QWidget;
 
