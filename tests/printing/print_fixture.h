@@ -4,38 +4,18 @@
 #include <optional>
 
 #include "core/shared_state.h"
-#include "declaration/general_data.h"
-#include "declaration/section6.h"
-#include "participants/participant.h"
 #include "printing/job.h"
-#include "sections/location/section2.h"
-#include "sections/location/section3.h"
-#include "sections/tax/annex2.h"
-#include "sections/tax/section4.h"
-#include "sections/tax/section5.h"
-#include "sections/tax/section7.h"
+#include "support/printed_records.h"
 #include "support/recorders.h"
 #include "support/recording_printer.h"
 #include "support/store_fixture.h"
 
 namespace padral::test {
 
-struct Impresion {
+struct Impresion : pruebas::RegistrosDeImpresion {
     pruebas::GrabadorAvisos avisos;
     pruebas::RelojFijo reloj;
     EstadoCompartido estado{avisos, reloj};
-    EstadoDeclaracion declaracion;
-    cDatosGenerales datos{declaracion};
-    DatosApartado2 apartado2;
-    DatosApartado3 apartado3;
-    DatosApartado4 apartado4;
-    RespuestasApartado5 apartado5;
-    DatosApartado6 apartado6;
-    DatosApartado7 apartado7;
-    Participantes participantes;
-    DatosAnexoII anexoII;
-    RegistrosImpresos registros{datos,     apartado2, apartado3,     apartado4, apartado5,
-                                apartado6, apartado7, participantes, anexoII};
     FabricaRegistro fabrica;
     Imprimir modulo{estado, registros, fabrica};
 

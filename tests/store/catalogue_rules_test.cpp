@@ -110,9 +110,10 @@ TEST_F(CatalogueRules, TakeTheNeighboursOfBadRows) {
 
 TEST_F(CatalogueRules, TakeNamesOfSixtyCharacters) {
     ASSERT_EQ(std::string(Sixty).size(), 60U);
-    Replace(Activities, 2, (std::string("1.681,ABC,") + Sixty).c_str());
+    const QByteArray longest = QByteArray("1.681,ABC,") + Sixty;
+    Replace(Activities, 2, longest.constData());
     EXPECT_EQ(Refusal(), "");
-    Replace(Activities, 2, (std::string("1.681,ABC,") + Sixty + "A").c_str());
+    Replace(Activities, 2, (longest + 'A').constData());
     EXPECT_EQ(Refusal(),
               At(Activities, 2) + "EPIDEPEUS \"" + Sixty + "A\": must have 3 to 60 characters");
 }

@@ -13,31 +13,21 @@
 #include <QTimer>
 
 #include "core/shared_state.h"
-#include "declaration/general_data.h"
 #include "pdf_reader.h"
 #include "platform/failure.h"
 #include "printing/job.h"
-#include "sections/location/section2.h"
-#include "sections/location/section3.h"
-#include "sections/tax/section4.h"
-#include "sections/tax/section5.h"
+#include "support/printed_records.h"
 #include "support/recorders.h"
 
 namespace padral::test {
 namespace {
 
-class SinImpresora : public testing::Test {
+class SinImpresora : public testing::Test, public pruebas::RegistrosDeImpresion {
 protected:
     QTemporaryDir casa;
     pruebas::GrabadorAvisos avisos;
     pruebas::RelojFijo reloj;
     EstadoCompartido estado{avisos, reloj};
-    EstadoDeclaracion declaracion;
-    cDatosGenerales datos{declaracion};
-    DatosApartado2 apartado2;
-    DatosApartado3 apartado3;
-    DatosApartado4 apartado4;
-    RespuestasApartado5 apartado5;
     FabricaQt fabrica{reloj};
 
     void SetUp() override {
@@ -50,8 +40,7 @@ protected:
         datos.NOMBRE = QStringLiteral("MUÑOZ ETXEBERRIA, MIREN");
     }
     void Imprime(const QString& copia) {
-        Imprimir(estado, {datos, apartado2, apartado3, apartado4, apartado5}, fabrica)
-            .ImprimirDeclaracion(copia);
+        Imprimir(estado, registros, fabrica).ImprimirDeclaracion(copia);
     }
     QString EnDocumentos(const QString& nombre) const {
         return casa.filePath(QStringLiteral("Documents/") + nombre);
