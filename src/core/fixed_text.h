@@ -29,6 +29,12 @@ private:
     QString texto_ = QString(N, u' ');
 };
 
+/// The stored text without the blanks that fill its width, as the user typed it.
+inline QString SinRelleno(QString texto) {
+    while (texto.endsWith(u' ')) texto.chop(1);
+    return texto;
+}
+
 /// A one-character answer ("S", "N", "O", ...), a blank when there is none.
 using Letra = TextoFijo<1>;
 

@@ -2,6 +2,7 @@
 // What kind of taxpayer an identifier stands for.
 
 #include <QString>
+#include <functional>
 
 namespace padral {
 
@@ -17,5 +18,8 @@ inline constexpr QStringView LetrasAnexoI = u"ABU";
 /// 3 entity without legal personality or community, 4 natural person (everything else).
 /// The test is a search of the whole `valor` within the set.
 int ClasificarNif(const QString& valor);
+
+/// Asks the common server whether an identifier is right.
+using ServidorNif = std::function<bool(const QString&)>;
 
 }  // namespace padral

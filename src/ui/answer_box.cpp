@@ -24,6 +24,8 @@ QSize CasillaRespuesta::sizeHint() const {
     ensurePolished();
     QStyleOptionButton opcion;
     initStyleOption(&opcion);
+    // The gap before the text is there as soon as the box has any.
+    opcion.text = flecha_;
     QSize texto;
     for (const QString& uno : {alAbrir_, trasElFoco_, flecha_})
         texto = texto.expandedTo(fontMetrics().size(Qt::TextShowMnemonic, uno));

@@ -47,9 +47,12 @@ void CajaNum::ponerTope(qsizetype longitud) {
     const int ancho = enteros_ + (conDecimales() ? 1 + Decimales : 0);
     const int tope = std::max(ancho, static_cast<int>(longitud));
     if (tope == maxLength()) return;
+    // Setting the width puts the cursor at the end and forgets that something was typed.
     const int cursor = cursorPosition();
+    const bool escrito = isModified();
     setMaxLength(tope);
     setCursorPosition(cursor);
+    setModified(escrito);
 }
 
 bool CajaNum::cabe(const QString& texto) const {

@@ -6,7 +6,9 @@ namespace padral {
 
 bool Avisar(const EstadoCompartido& estado, const QWidget& pantalla, const Revision& revision) {
     for (const auto& aviso : revision.avisos) {
-        const QString titulo = QString::fromUtf16(aviso.prefijo) + estado.Texto(aviso.titulo);
+        const QString titulo = aviso.titulo == 0
+                                   ? QString()
+                                   : QString::fromUtf16(aviso.prefijo) + estado.Texto(aviso.titulo);
         const Icono icono = aviso.exclamacion ? Icono::Exclamacion : Icono::Informacion;
         const QString& texto = aviso.texto == 0 ? revision.compuesto : estado.Texto(aviso.texto);
         estado.avisador.Mostrar({texto, titulo, icono, Botones::Aceptar});

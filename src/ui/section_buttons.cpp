@@ -5,6 +5,7 @@
 #include <QStyleOptionButton>
 #include <algorithm>
 
+#include "ui/button_keys.h"
 #include "ui/fields.h"
 
 namespace padral {
@@ -25,12 +26,6 @@ protected:
         opcion->text = opcion->text.trimmed();
     }
 };
-
-/// Steps of an arrow key along the row; 0 for any other key.
-int pasoDe(int tecla) {
-    if (tecla == Qt::Key_Left || tecla == Qt::Key_Up) return -1;
-    return tecla == Qt::Key_Right || tecla == Qt::Key_Down ? 1 : 0;
-}
 
 }  // namespace
 
@@ -84,29 +79,8 @@ bool BotonesApartado::eventFilter(QObject* objeto, QEvent* evento) {
     if (evento->type() == QEvent::EnabledChange)
         Imagen(static_cast<std::size_t>(este - botones_.begin()))
             ->setEnabled((*este)->isEnabledTo(this));
-    return evento->type() == QEvent::KeyPress && tecla(*este, *static_cast<QKeyEvent*>(evento));
-}
-
-// A key held down since the screen before must not leave this one, too.
-bool BotonesApartado::tecla(QPushButton* boton, const QKeyEvent& evento) {
-    if ((evento.modifiers() & ~Qt::KeypadModifier) != 0) return false;
-    if (const int paso = pasoDe(evento.key())) {
-        mover(boton, paso);
-        return true;
-    }
-    const bool intro = evento.key() == Qt::Key_Return || evento.key() == Qt::Key_Enter;
-    if (intro && !evento.isAutoRepeat()) boton->click();
-    return intro;
-}
-
-void BotonesApartado::mover(const QPushButton* desde, int paso) {
-    const auto ultimo = static_cast<std::ptrdiff_t>(botones_.size());
-    auto i = std::find(botones_.begin(), botones_.end(), desde) - botones_.begin() + paso;
-    for (; i >= 0 && i < ultimo; i += paso) {
-        QPushButton* boton = botones_[static_cast<std::size_t>(i)];
-        if (!boton->isEnabled() || !boton->isVisibleTo(this)) continue;
-        return boton->setFocus(paso > 0 ? Qt::TabFocusReason : Qt::BacktabFocusReason);
-    }
+    return evento->type() == QEvent::KeyPress &&
+           TeclaEntreBotones(botones_, *este, *static_cast<QKeyEvent*>(evento));
 }
 
 }  // namespace padral

@@ -42,8 +42,6 @@ protected:
 
 private:
     void crear(const BotonApartado& fila);
-    bool tecla(QPushButton* boton, const QKeyEvent& evento);
-    void mover(const QPushButton* desde, int paso);
 
     std::span<const BotonApartado> tabla_;
     std::vector<QPushButton*> botones_;

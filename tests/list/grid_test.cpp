@@ -6,7 +6,7 @@
 #include <QStandardItemModel>
 #include <QTableView>
 
-#include "store/list/grid_utilities.h"
+#include "ui/list/grid_utilities.h"
 
 namespace padral {
 namespace {

@@ -5,6 +5,8 @@
 #include <QLabel>
 #include <QMessageBox>
 
+#include "support/recorders.h"
+#include "ui/review_messages.h"
 #include "ui/window_fixture.h"
 
 namespace padral::pruebas {
@@ -159,6 +161,26 @@ TEST_F(VentanaConCampos, TrasLaCajaElFocoEstaDondeEstaba) {
     ASSERT_TRUE(QTest::qWaitForWindowActive(&ventana));
     EXPECT_TRUE(campo->hasFocus());
     EXPECT_EQ(llamadas, 0);
+}
+
+TEST(MensajesDeRevision, TextoTituloEIconoDeCadaAviso) {
+    GrabadorAvisos avisos;
+    RelojFijo reloj;
+    EstadoCompartido estado{avisos, reloj};
+    const QWidget pantalla;
+    const Revision revision{
+        .avisos = {{754, 0}, {871, 75, u"Ap4- "}, {.texto = 0, .titulo = 753, .exclamacion = true}},
+        .compuesto = QStringLiteral("compuesto")};
+    for (const int desplazamiento : {0, 10000}) {
+        estado.DesplazamientoIdioma = static_cast<qint16>(desplazamiento);
+        avisos.Espera(estado.Texto(754), QString());
+        avisos.Espera(estado.Texto(871), QStringLiteral("Ap4- ") + estado.Texto(75));
+        avisos.Espera(
+            {revision.compuesto, estado.Texto(753), Icono::Exclamacion, Botones::Aceptar});
+        EXPECT_FALSE(Avisar(estado, pantalla, revision));
+        avisos.Verificar();
+    }
+    EXPECT_TRUE(Avisar(estado, pantalla, {}));
 }
 
 }  // namespace

@@ -266,6 +266,16 @@ TEST_F(CampoNumerico, UnValorMayorQueElCampoPuedeMenguarPeroNoCrecer) {
     EXPECT_EQ(campo->text(), QStringLiteral("987"));
 }
 
+TEST_F(CampoNumerico, UnValorMayorQueElCampoTambienSeSabeEscrito) {
+    auto* campo = nuevo(2, u"##");
+    campo->Presentar(943);
+    EXPECT_FALSE(campo->isModified());
+    campo->selectAll();
+    Escribir(campo, QStringLiteral("1"));
+    EXPECT_EQ(campo->text(), QStringLiteral("1"));
+    EXPECT_TRUE(campo->isModified());
+}
+
 TEST_F(CampoNumerico, BloqueadoNoAdmiteNadaYDesbloqueadoSi) {
     for (const auto* formato : {u"###", u"##0.00"}) {
         auto* campo = nuevo(3, formato);

@@ -2,7 +2,7 @@
 
 #include <algorithm>
 
-#include "core/nif.h"
+#include "sections/tax/tax_rules.h"
 
 namespace padral {
 

@@ -2,15 +2,12 @@
 // What makes section 4 valid.
 
 #include <QString>
-#include <functional>
 
+#include "core/nif.h"
+#include "core/review.h"
 #include "sections/tax/section4.h"
-#include "sections/tax/tax_rules.h"
 
 namespace padral {
-
-/// Asks the common server whether an identifier is right.
-using ServidorNif = std::function<bool(const QString&)>;
 
 /// The identifier of the entity under income attribution, as its field or the record has it. The
 /// server is asked only for one of the right length and first letter.

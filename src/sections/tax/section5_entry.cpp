@@ -4,6 +4,7 @@
 #include <array>
 
 #include "sections/tax/section5_rules.h"
+#include "sections/tax/tax_rules.h"
 
 namespace padral {
 

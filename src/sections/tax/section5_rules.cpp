@@ -2,6 +2,8 @@
 
 #include <array>
 
+#include "sections/tax/tax_rules.h"
+
 namespace padral {
 
 namespace {

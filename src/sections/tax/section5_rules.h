@@ -3,9 +3,9 @@
 
 #include <span>
 
+#include "core/review.h"
 #include "sections/tax/section4.h"
 #include "sections/tax/section5.h"
-#include "sections/tax/tax_rules.h"
 
 namespace padral {
 

@@ -1,9 +1,7 @@
 #pragma once
 // The dates on which the rules of sections 4 and 5 change.
 
-#include <QString>
-
-#include "core/review.h"
+#include <QtGlobal>
 
 namespace padral {
 
@@ -14,11 +12,5 @@ inline constexpr qint32 FinModulos = 20140101;
 /// Effective date of the later edition of both screens, without the global base of travel agencies
 /// and with the customs quotas.
 inline constexpr qint32 InicioEdicion2015 = 20150101;
-
-/// The stored text without the blanks that fill its width, as the user typed it.
-inline QString SinRelleno(QString texto) {
-    while (texto.endsWith(u' ')) texto.chop(1);
-    return texto;
-}
 
 }  // namespace padral

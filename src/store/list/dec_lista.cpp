@@ -1,6 +1,7 @@
 #include "store/list/dec_lista.h"
 
 #include "core/shared_state.h"
+#include "store/list/dec_lista_criteria.h"
 
 namespace padral {
 
@@ -105,27 +106,14 @@ void cDecLista::TerminarBusqueda() {
 }
 
 void cDecLista::GuardarCriterio(int columna, const QString& valor) {
-    const auto clave = static_cast<qint16>(columna);
-    const qint16 posicion = TS_PERTENECE(clave);
-    const bool vacio = valor.trimmed().isEmpty();
-    if (posicion == 0 && !vacio)
-        TS_AÑADIR(clave, valor);
-    else if (posicion != 0 && !vacio)
-        TS_MODIFICAR(posicion, clave, valor);
-    else if (posicion != 0)
-        TS_BORRAR(posicion);
+    padral::GuardarCriterio(criterios_, columna, valor);
 }
 
 bool cDecLista::CriterioValido(int columna, const QString& valor) const {
     return columna != ColFecha || valor.trimmed().isEmpty() || estado_.fecha.EsFecha(valor);
 }
 
-QString cDecLista::Criterio(int columna) const {
-    auto clave = static_cast<qint16>(columna);
-    QString valor;
-    TS_ELEMENTO(TS_PERTENECE(clave), clave, valor);
-    return valor;
-}
+QString cDecLista::Criterio(int columna) const { return CriterioDe(criterios_, columna); }
 
 CriteriosLista cDecLista::CriteriosServidor() const {
     CriteriosLista criterios;

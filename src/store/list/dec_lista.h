@@ -100,8 +100,6 @@ public:
     static QString TextoApartados(const QString& marcas);
 
 private:
-    QString descripcion(qint16 columna, const QString& valor) const;
-
     EstadoCompartido& estado_;
     TablaCriterios criterios_;
 };

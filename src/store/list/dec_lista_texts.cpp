@@ -2,6 +2,7 @@
 
 #include "core/shared_state.h"
 #include "store/list/dec_lista.h"
+#include "store/list/dec_lista_criteria.h"
 
 namespace padral {
 
@@ -18,23 +19,6 @@ constexpr LetraTexto TiposDeclaracion[] = {{u'P', 582}, {u'M', 583}, {u'C', 584}
 constexpr LetraTexto Solicitudes[] = {{u'A', 586}, {u'B', 587}, {u'C', 402},
                                       {u'D', 588}, {u'E', 589}, {u'F', 590}};
 
-/// Words before and behind a criterion, in both languages.
-struct FraseCriterio {
-    qint16 columna;
-    const char16_t *antes, *despues;
-    const char16_t *antesEuskera, *despuesEuskera;
-};
-
-constexpr FraseCriterio Frases[] = {
-    {1, u"DNI >= ", u" ", u". NA >= ", u" "},
-    {2, u"Nombre empieza por '", u"' ", u". Izena '", u"'-kin hasten da "},
-    {3, u"Referencia empieza por '", u"' ", u". Erreferentzia '", u"'-kin hasten da "},
-    {4, u"Fecha >= '", u"' ", u"Data >= '", u"' "},
-};
-constexpr FraseCriterio FraseDesconocida = {0, u"Selección desconocida: '", u"' ",
-                                            u"Hautapen ezezaguna: '", u"' "};
-
-constexpr int SinDatos = 574;
 constexpr int Declaraciones = 575;
 
 template <std::size_t N>
@@ -83,26 +67,9 @@ QString cDecLista::TextoApartados(const QString& marcas) {
     return partes.join(u',');
 }
 
-QString cDecLista::descripcion(qint16 columna, const QString& valor) const {
-    const FraseCriterio* frase = &FraseDesconocida;
-    for (const auto& f : Frases)
-        if (f.columna == columna) frase = &f;
-    return estado_.SegunIdioma(
-        QString::fromUtf16(frase->antes) + valor + QString::fromUtf16(frase->despues),
-        QString::fromUtf16(frase->antesEuskera) + valor +
-            QString::fromUtf16(frase->despuesEuskera));
-}
-
 QString cDecLista::LineaResultado() const {
-    QString linea;
-    for (qint16 posicion = 1; posicion <= TS_COUNT(); ++posicion) {
-        qint16 columna = 0;
-        QString valor;
-        TS_ELEMENTO(posicion, columna, valor);
-        linea += descripcion(columna, valor);
-    }
-    if (!HayFilas()) return linea + estado_.Texto(SinDatos);
-    return linea + NUMDECLASEL + estado_.Texto(Declaraciones);
+    return padral::LineaResultado(estado_, criterios_, ColFecha, NUMDECLASEL.toInt(),
+                                  Declaraciones);
 }
 
 }  // namespace padral

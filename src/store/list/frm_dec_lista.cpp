@@ -6,12 +6,14 @@ namespace padral {
 
 namespace {
 
-constexpr int AyudaLista = 573;
-constexpr int TextoBuscar = 560, AyudaBuscar = 561;
-constexpr int TextoResultado = 581, AyudaResultado = 570;
-
-const QColor ColorFondoFila = QColor::fromRgb(0x3A6EA5);
-const QColor ColorTextoFila = QColor::fromRgb(0xFFFFFF);
+enum : int {
+    TextoBuscar = 560,
+    AyudaBuscar = 561,
+    AyudaResultado = 570,
+    AyudaLista = 573,
+    AyudaBusqueda = 576,
+    TextoResultado = 581,
+};
 
 }  // namespace
 
@@ -35,47 +37,20 @@ void FrmDecLista::CargarFlxDeclaraciones() {
 }
 
 void FrmDecLista::PresentaDatos() {
-    if (lista_.EnBusqueda())
-        presentarCriterios();
-    else
-        presentarLista();
-    presentarFlecha();
+    PantallaConLista::PresentaDatos();
+    const bool busqueda = lista_.EnBusqueda();
+    lista_.ETIQUETAAYUDA = Texto(busqueda ? AyudaBusqueda : AyudaLista);
+    lista_.ETIQUETARESULTADO = busqueda ? QString() : lista_.LineaResultado();
     lblayuda_->setText(lista_.ETIQUETAAYUDA);
     lblResultado_->setText(lista_.ETIQUETARESULTADO);
 }
 
-void FrmDecLista::presentarLista() {
-    flxDeclaraciones_->setSelectionMode(QTableView::SingleSelection);
+void FrmDecLista::cargarFilas() {
     CargarFlxDeclaraciones();
-    const int fila = BuscarFilaPorValor(*modelo_, 0, lista_.csde);
-    if (lista_.HayFilas()) {
-        flxDeclaraciones_->setCurrentIndex(modelo_->index(fila - 1, cDecLista::ColDni));
-        flxDeclaraciones_->scrollTo(flxDeclaraciones_->currentIndex());
-    } else {
-        lista_.LimpiarSeleccion();
-    }
-    lista_.ETIQUETAAYUDA = Texto(AyudaLista);
-    lista_.ETIQUETARESULTADO = lista_.LineaResultado();
+    if (!lista_.HayFilas()) lista_.LimpiarSeleccion();
 }
 
-void FrmDecLista::elegirFila() {
-    const int fila = flxDeclaraciones_->currentIndex().row();
-    if (!listaConFilas() || fila < 0) return;
-    lista_.Seleccionar(modelo_->Filas(), fila);
-    utilidades_.SeleccionarGrid(ColorFondoFila, ColorTextoFila, filaMarcada_);
-}
-
-void FrmDecLista::presentarFlecha() {
-    const int columna = lista_.ORDEN.toInt();
-    const bool hay = !lista_.EnBusqueda() && cDecLista::EsColumnaBuscable(columna);
-    const bool ascendente = lista_.TIPOORDEN == QStringLiteral("ASC");
-    picasc_->setVisible(hay && ascendente);
-    picdesc_->setVisible(hay && !ascendente);
-    const QRect cabecera = flxDeclaraciones_->CabeceraDe(columna);
-    for (auto* flecha : {picasc_, picdesc_})
-        flecha->move(cabecera.right() - LadoFlecha - MargenFlecha,
-                     cabecera.center().y() - LadoFlecha / 2);
-}
+int FrmDecLista::filaPropia() const { return BuscarFilaPorValor(*modelo_, 0, lista_.csde) - 1; }
 
 void FrmDecLista::Presentabotones() {
     const bool baja = lista_.EnBaja();
@@ -92,7 +67,7 @@ void FrmDecLista::Presentabotones() {
         {CmdNuevo_, !baja, lista},
         {CmdCopiarDeclaracion_, !baja, eleccion},
         {cmdAnterior_, true, true},
-        {cmdBuscar_, true, lista || columnaEnMano || utilidades_.hayAlgunaCondicion()},
+        {cmdBuscar_, true, lista || columnaEnMano || utilidades().hayAlgunaCondicion()},
         {cmdTodos_, true, lista && lista_.TS_COUNT() > 0},
     };
     for (const auto& [boton, visible, activo] : botones) {

@@ -1,19 +1,13 @@
 #pragma once
 // The declarations list: stored declarations are found, opened, copied and deleted here.
 
-#include <QLabel>
-#include <QPushButton>
-
 #include "declaration/general_data.h"
 #include "store/list/decl_model.h"
-#include "store/list/grid_utilities.h"
-#include "store/list/list_grid.h"
-#include "ui/fields.h"
-#include "ui/screen.h"
+#include "ui/list/list_screen.h"
 
 namespace padral {
 
-class FrmDecLista : public Pantalla {
+class FrmDecLista : public PantallaConLista {
     Q_OBJECT
 public:
     /// `declaracion` receives key and mode of the declaration to show.
@@ -21,66 +15,55 @@ public:
 
     void Anadir_captions() override;
     void Cargar() override;
-    QWidget* FocoInicial() override { return flxDeclaraciones_; }
 
     /// Shows the list, or the criteria while they are entered.
-    void PresentaDatos();
+    void PresentaDatos() override;
     /// Shows and hides the buttons, turns them on and off.
-    void Presentabotones();
+    void Presentabotones() override;
     /// Runs the query and gives its rows to the grid.
     void CargarFlxDeclaraciones();
 
 protected:
     void showEvent(QShowEvent* evento) override;
-    bool eventFilter(QObject* objeto, QEvent* evento) override;
 
 private:
-    // Construction and captions, in frm_dec_lista_layout.cpp.
+    // Construction, in frm_dec_lista_layout.cpp.
     QWidget* crearBotones();
-    QPushButton* crearBoton(const char16_t* nombre, QWidget* padre);
-    void crearBusqueda();
-    void conectar();
-    void presentarTitulo();
-    void ponerMinimos();
+    std::pair<RejillaLista::Anchos, RejillaLista::Anchos> minimos() const override;
 
     // Data, in frm_dec_lista.cpp.
-    void presentarLista();
-    void elegirFila();
-    void presentarFlecha();
-    bool listaConFilas() const { return !lista_.EnBusqueda() && lista_.HayFilas(); }
+    void cargarFilas() override;
+    int filaPropia() const override;
 
     // Search, in frm_dec_lista_search.cpp.
-    void presentarCriterios();
-    void pulsarBuscar();
-    void terminarBusqueda();
-    void elegirColumna(int columna);
-    bool moverColumna(int paso);
-    bool guardarCriterioEnMano();
-    bool teclaEnBusqueda(QKeyEvent* evento);
+    Entrada entradaDe(int columna) const override;
+    bool tomarCriterio(int columna, const QString& valor) override;
+
+    // The state of the list.
+    bool enBusqueda() const override { return lista_.EnBusqueda(); }
+    bool hayFilas() const override { return lista_.HayFilas(); }
+    int columnaEnMano() const override { return lista_.SELECCIONACTUAL.toInt(); }
+    int columnaDeOrden() const override { return lista_.ORDEN.toInt(); }
+    bool ordenAscendente() const override { return lista_.TIPOORDEN == QStringLiteral("ASC"); }
+    void iniciarBusqueda() override { lista_.IniciarBusqueda(); }
+    void acabarBusqueda() override { lista_.TerminarBusqueda(); }
+    void quitarCriterios() override { lista_.VerTodos(); }
+    void tomarColumna(int columna) override { lista_.SELECCIONACTUAL = QString::number(columna); }
+    bool tomarOrden(int columna) override { return lista_.OrdenarPor(columna); }
+    void tomarOrdenInverso() override { lista_.InvertirOrden(); }
+    void tomarFila(int fila) override { lista_.Seleccionar(modelo_->Filas(), fila); }
 
     // Commands, in frm_dec_lista_actions.cpp.
     void conectarBotones();
     void abrir(const QString& modo, qint32 clave, bool pendiente);
-    void accionDeFila();
+    void accionDeFila() override;
     void eliminar();
     void salir();
-    void verTodos();
-    void ordenarPor(int columna);
-    void invertirOrden();
-
-    /// Of the arrows on the header, in pixels.
-    static constexpr int LadoFlecha = 16, MargenFlecha = 3;
 
     EstadoDeclaracion& declaracion_;
     cDecLista& lista_;
-    cUtilidadesGrid utilidades_;
-    qint32 filaMarcada_ = 0;
 
     ModeloDeclaraciones* modelo_;
-    QLabel *titulo_, *lblayuda_, *lblResultado_;
-    RejillaDeclaraciones* flxDeclaraciones_;
-    CampoTexto* txtBusqueda_;
-    ImagenPulsable *picasc_, *picdesc_;
     QPushButton *cmdVerDeclaracion_, *CmdEliminar_, *CmdNuevo_, *CmdCopiarDeclaracion_;
     QPushButton *cmdAnterior_, *cmdBuscar_, *cmdTodos_;
 };

@@ -66,24 +66,4 @@ void FrmDecLista::salir() {
     pantallas_.Descargar(EstaPantalla);
 }
 
-void FrmDecLista::verTodos() {
-    // The button goes off with this.
-    flxDeclaraciones_->setFocus(Qt::OtherFocusReason);
-    lista_.VerTodos();
-    PresentaDatos();
-    Presentabotones();
-}
-
-void FrmDecLista::ordenarPor(int columna) {
-    if (!lista_.OrdenarPor(columna)) return;
-    const Espera espera(pantallas_);
-    PresentaDatos();
-}
-
-void FrmDecLista::invertirOrden() {
-    const Espera espera(pantallas_);
-    lista_.InvertirOrden();
-    PresentaDatos();
-}
-
 }  // namespace padral

@@ -1,21 +1,25 @@
 #pragma once
-// The grid of the declarations list: columns in proportion, one row marked, keys of its own.
+// The grid of a list: columns in proportion, one row marked, keys of its own.
 
 #include <QTableView>
-#include <array>
+#include <vector>
 
-#include "store/list/decl_model.h"
+#include "ui/list/list_model.h"
 
 namespace padral {
 
-class RejillaDeclaraciones : public QTableView {
+/// Its model is a `ModeloLista`. Column 0, the key, is hidden.
+class RejillaLista : public QTableView {
     Q_OBJECT
 public:
-    explicit RejillaDeclaraciones(QWidget* padre = nullptr);
+    /// Widths by column.
+    using Anchos = std::vector<int>;
 
-    /// Widths in pixels by column.
-    using Anchos = std::array<int, ModeloDeclaraciones::Columnas>;
-    /// What each column should have at least, and what it can make do with in a narrow grid.
+    /// Columns have `proporciones` of the width; `elastica` takes what is left over.
+    RejillaLista(const QString& nombre, Anchos proporciones, std::size_t elastica, QWidget* padre);
+
+    /// What each column should have at least, and what it can make do with in a narrow grid, in
+    /// pixels.
     void PonerMinimos(const Anchos& minimos, const Anchos& estrechos);
     /// After `setModel`: hides the key and shares the width out.
     void AjustarColumnas();
@@ -44,12 +48,15 @@ protected:
     void scrollContentsBy(int dx, int dy) override;
 
 private:
-    bool enCriterios() const;
+    const ModeloLista& modelo() const;
     void irAFila(int fila);
+    void irAlFinal(QKeyEvent* avance);
     bool pideOrden(const QKeyEvent& evento);
     Anchos repartir(int ancho) const;
 
-    Anchos minimos_{}, estrechos_{};
+    const Anchos proporciones_;
+    const std::size_t elastica_;
+    Anchos minimos_, estrechos_;
 };
 
 }  // namespace padral

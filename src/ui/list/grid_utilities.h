@@ -15,12 +15,14 @@ public:
     /// Both are set once, when the screen is made.
     QTableView* Flex = nullptr;
     QLineEdit* txtBusqueda = nullptr;
+    /// The box goes over the header of the cursor's column instead of its cell.
+    bool SobreCabecera = false;
 
     /// Marks the row of the cursor with the two colours and takes the mark off `filaAnterior`,
     /// which becomes the row marked. Without a cursor nothing changes.
     void SeleccionarGrid(const QColor& colorFondo, const QColor& colorTexto,
                          qint32& filaAnterior) const;
-    /// Places the box over the cell of the cursor and shows it.
+    /// Places the box over the cell of the cursor, or over its header, and shows it.
     void PosicionarTxtBusqueda() const;
     /// Whether any cell of the criteria row, the first one, holds a value.
     bool hayAlgunaCondicion() const;

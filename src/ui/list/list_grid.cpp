@@ -1,4 +1,4 @@
-#include "store/list/list_grid.h"
+#include "ui/list/list_grid.h"
 
 #include <QHeaderView>
 #include <QKeyEvent>
@@ -11,19 +11,12 @@ namespace padral {
 
 namespace {
 
-using Anchos = RejillaDeclaraciones::Anchos;
+using Anchos = RejillaLista::Anchos;
 
-/// Widths by column, in proportion to each other.
-constexpr Anchos Proporciones{0, 1000, 3050, 750, 1050, 2300, 1000};
-constexpr std::size_t ColumnaElastica = 2;
 constexpr int MargenFila = 10;
 constexpr int MargenCelda = 12;
 
-constexpr int suma(const Anchos& anchos) {
-    return std::accumulate(anchos.begin(), anchos.end(), 0);
-}
-constexpr int SumaProporciones = suma(Proporciones);
-static_assert(SumaProporciones > 0);
+int suma(const Anchos& anchos) { return std::accumulate(anchos.begin(), anchos.end(), 0); }
 
 /// The mark belongs to the row: no cell has a frame of its own; while the grid has the focus,
 /// lines above and below the row say so. Cells that take no criterion are grey.
@@ -35,7 +28,7 @@ public:
                const QModelIndex& indice) const override {
         QStyleOptionViewItem sinFoco = opcion;
         sinFoco.state &= ~QStyle::State_HasFocus;
-        const auto* modelo = static_cast<const ModeloDeclaraciones*>(indice.model());
+        const auto* modelo = static_cast<const ModeloLista*>(indice.model());
         if (modelo->EnCriterios() && !(indice.flags() & Qt::ItemIsEnabled))
             pintor->fillRect(opcion.rect, opcion.palette.color(QPalette::Window));
         QStyledItemDelegate::paint(pintor, sinFoco, indice);
@@ -49,7 +42,14 @@ public:
 
 }  // namespace
 
-RejillaDeclaraciones::RejillaDeclaraciones(QWidget* padre) : QTableView(padre) {
+RejillaLista::RejillaLista(const QString& nombre, Anchos proporciones, std::size_t elastica,
+                           QWidget* padre)
+    : QTableView(padre),
+      proporciones_(std::move(proporciones)),
+      elastica_(elastica),
+      minimos_(proporciones_.size()),
+      estrechos_(proporciones_.size()) {
+    setObjectName(nombre);
     setItemDelegate(new PintorCelda(this));
     setSelectionBehavior(SelectRows);
     setSelectionMode(SingleSelection);
@@ -71,23 +71,24 @@ RejillaDeclaraciones::RejillaDeclaraciones(QWidget* padre) : QTableView(padre) {
     cabecera->setFixedHeight(fontMetrics().height() + MargenFila + 2);
 }
 
-void RejillaDeclaraciones::PonerMinimos(const Anchos& minimos, const Anchos& estrechos) {
+void RejillaLista::PonerMinimos(const Anchos& minimos, const Anchos& estrechos) {
     minimos_ = minimos;
     estrechos_ = estrechos;
     AjustarColumnas();
 }
 
-int RejillaDeclaraciones::AnchoTexto(const QString& texto) const {
+int RejillaLista::AnchoTexto(const QString& texto) const {
     return fontMetrics().horizontalAdvance(texto) + MargenCelda;
 }
 
-Anchos RejillaDeclaraciones::repartir(int ancho) const {
-    Anchos anchos{};
+Anchos RejillaLista::repartir(int ancho) const {
+    Anchos anchos(proporciones_.size());
+    const int total = std::max(1, suma(proporciones_));
     for (std::size_t c = 1; c < anchos.size(); ++c)
-        anchos[c] = std::max(minimos_[c], ancho * Proporciones[c] / SumaProporciones);
-    int& elastica = anchos[ColumnaElastica];
+        anchos[c] = std::max(minimos_[c], ancho * proporciones_[c] / total);
+    int& elastica = anchos[elastica_];
     elastica = std::max(0, ancho - (suma(anchos) - elastica));
-    if (elastica >= minimos_[ColumnaElastica]) return anchos;
+    if (elastica >= minimos_[elastica_]) return anchos;
     // No room for proportions: every column gives way by the same part of what it can spare.
     const int sobra = suma(minimos_) - suma(estrechos_);
     const int falta = std::clamp(suma(minimos_) - ancho, 0, sobra);
@@ -99,7 +100,7 @@ Anchos RejillaDeclaraciones::repartir(int ancho) const {
     return anchos;
 }
 
-void RejillaDeclaraciones::AjustarColumnas() {
+void RejillaLista::AjustarColumnas() {
     if (!model()) return;
     const Anchos anchos = repartir(viewport()->width());
     setColumnHidden(0, true);
@@ -107,60 +108,69 @@ void RejillaDeclaraciones::AjustarColumnas() {
     Q_EMIT geometriaCambiada();
 }
 
-QRect RejillaDeclaraciones::CabeceraDe(int columna) const {
+QRect RejillaLista::CabeceraDe(int columna) const {
     const auto* cabecera = horizontalHeader();
     return {cabecera->sectionViewportPosition(columna), 0, cabecera->sectionSize(columna),
             cabecera->height()};
 }
 
-bool RejillaDeclaraciones::enCriterios() const {
-    return static_cast<const ModeloDeclaraciones*>(model())->EnCriterios();
+const ModeloLista& RejillaLista::modelo() const {
+    return *static_cast<const ModeloLista*>(model());
 }
 
-void RejillaDeclaraciones::irAFila(int fila) {
+void RejillaLista::irAFila(int fila) {
     const QModelIndex destino = model()->index(fila, std::max(1, currentIndex().column()));
     if (destino.flags() & Qt::ItemIsSelectable) setCurrentIndex(destino);
 }
 
-bool RejillaDeclaraciones::pideOrden(const QKeyEvent& evento) {
+// A page down may end on the blank rows behind the last one.
+void RejillaLista::irAlFinal(QKeyEvent* avance) {
+    const QModelIndex antes = currentIndex();
+    if (avance) QTableView::keyPressEvent(avance);
+    if (currentIndex() == antes) irAFila(modelo().NumFilas() - 1);
+}
+
+bool RejillaLista::pideOrden(const QKeyEvent& evento) {
     const auto teclas = evento.modifiers() & ~Qt::KeypadModifier;
     const int columna = evento.key() - Qt::Key_0;
-    if (teclas != Qt::ControlModifier || !cDecLista::EsColumnaBuscable(columna)) return false;
+    if (teclas != Qt::ControlModifier || !modelo().EsColumnaBuscable(columna)) return false;
     Q_EMIT ordenPedido(columna);
     return true;
 }
 
-void RejillaDeclaraciones::keyPressEvent(QKeyEvent* evento) {
+void RejillaLista::keyPressEvent(QKeyEvent* evento) {
     const int tecla = evento->key();
     if (tecla == Qt::Key_Return || tecla == Qt::Key_Enter) {
         // Held down it opens or deletes once.
         if (!evento->isAutoRepeat()) Q_EMIT intro();
     } else if (pideOrden(*evento)) {
         evento->accept();
-    } else if (enCriterios() && (tecla == Qt::Key_Left || tecla == Qt::Key_Right)) {
+    } else if (modelo().EnCriterios() && (tecla == Qt::Key_Left || tecla == Qt::Key_Right)) {
         Q_EMIT pasoDeColumna(tecla == Qt::Key_Left ? -1 : 1);
     } else if (tecla == Qt::Key_Home) {
         irAFila(0);
     } else if (tecla == Qt::Key_End) {
-        irAFila(model()->rowCount() - 1);
+        irAlFinal(nullptr);
+    } else if (tecla == Qt::Key_PageDown) {
+        irAlFinal(evento);
     } else {
         QTableView::keyPressEvent(evento);
     }
 }
 
-void RejillaDeclaraciones::resizeEvent(QResizeEvent* evento) {
+void RejillaLista::resizeEvent(QResizeEvent* evento) {
     QTableView::resizeEvent(evento);
     AjustarColumnas();
     // The selected row stays in view when the list shows for the first time, too.
     if (currentIndex().isValid()) scrollTo(currentIndex());
 }
 
-void RejillaDeclaraciones::moveEvent(QMoveEvent* evento) {
+void RejillaLista::moveEvent(QMoveEvent* evento) {
     QTableView::moveEvent(evento);
     Q_EMIT geometriaCambiada();
 }
 
-void RejillaDeclaraciones::scrollContentsBy(int dx, int dy) {
+void RejillaLista::scrollContentsBy(int dx, int dy) {
     QTableView::scrollContentsBy(dx, dy);
     if (dx != 0) Q_EMIT geometriaCambiada();
 }

@@ -1,8 +1,11 @@
-#include "store/list/button_bar.h"
+#include "ui/list/button_bar.h"
 
 #include <QBoxLayout>
-#include <QEvent>
+#include <QKeyEvent>
+#include <QPushButton>
 #include <algorithm>
+
+#include "ui/button_keys.h"
 
 namespace padral {
 
@@ -28,6 +31,20 @@ BarraBotones::BarraBotones(QWidget* padre)
 QSize BarraBotones::minimumSizeHint() const {
     return {std::max(primero_->minimumSize().width(), segundo_->minimumSize().width()),
             todo_->minimumSize().height()};
+}
+
+void BarraBotones::RecorrerConTeclas() {
+    for (auto* boton : findChildren<QPushButton*>()) {
+        boton->installEventFilter(this);
+        recorrido_.push_back(boton);
+    }
+}
+
+bool BarraBotones::eventFilter(QObject* objeto, QEvent* evento) {
+    if (evento->type() != QEvent::KeyPress) return QWidget::eventFilter(objeto, evento);
+    const auto este = std::find(recorrido_.begin(), recorrido_.end(), objeto);
+    return este != recorrido_.end() &&
+           TeclaEntreBotones(recorrido_, *este, *static_cast<QKeyEvent*>(evento));
 }
 
 bool BarraBotones::event(QEvent* evento) {

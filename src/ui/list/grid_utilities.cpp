@@ -1,5 +1,6 @@
-#include "store/list/grid_utilities.h"
+#include "ui/list/grid_utilities.h"
 
+#include <QHeaderView>
 #include <QLineEdit>
 #include <QTableView>
 
@@ -32,9 +33,14 @@ void cUtilidadesGrid::SeleccionarGrid(const QColor& colorFondo, const QColor& co
 }
 
 void cUtilidadesGrid::PosicionarTxtBusqueda() const {
-    const QRect celda = Flex->visualRect(Flex->currentIndex());
-    const QPoint esquina = Flex->viewport()->mapTo(txtBusqueda->parentWidget(), celda.topLeft());
-    txtBusqueda->setGeometry(QRect(esquina, celda.size()));
+    const auto* cabecera = Flex->horizontalHeader();
+    const int columna = Flex->currentIndex().column();
+    const QWidget* en = SobreCabecera ? cabecera->viewport() : Flex->viewport();
+    const QRect sitio = SobreCabecera ? QRect(cabecera->sectionViewportPosition(columna), 0,
+                                              cabecera->sectionSize(columna), cabecera->height())
+                                      : Flex->visualRect(Flex->currentIndex());
+    const QPoint esquina = en->mapTo(txtBusqueda->parentWidget(), sitio.topLeft());
+    txtBusqueda->setGeometry(QRect(esquina, sitio.size()));
     txtBusqueda->show();
     txtBusqueda->raise();
 }
