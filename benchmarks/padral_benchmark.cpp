@@ -12,6 +12,7 @@
 #include <QTemporaryDir>
 
 #include "app/program.h"
+#include "declaration/cross_rules.h"
 #include "platform/failure.h"
 #include "printing/job.h"
 #include "printing/ui/printer_factory.h"
@@ -238,6 +239,48 @@ void GuardarFilaConSqlite(benchmark::State& estado) {
 }
 BENCHMARK(GuardarFilaConSqlite)->Unit(benchmark::kMillisecond);
 
+/// A start that holds and marks every section and breaks no rule, so that a check goes all the way.
+void llenarSecciones(cDeclaraciones& d, int participes) {
+    using G = DatosGeneralesStore;
+    datos(d, 1);
+    for (const auto marca : {&G::Apartado2, &G::Apartado3, &G::Apartado4, &G::Apartado5,
+                             &G::Apartado7, &G::AnexoI, &G::AnexoII})
+        d.general.*marca = QStringLiteral("X");
+    d.apartado2.Lleno = d.apartado3.Lleno = d.apartado4.Lleno = d.apartado5.APARTADO5LLENO = true;
+    d.apartado7.Lleno = d.anexoII.Lleno = true;
+    d.apartado2.ElMismoAct = QStringLiteral("X");
+    d.apartado4.IVAEXPORT = QStringLiteral("B");
+    for (const auto& c : TablaApartado5()) c.escribir(d.apartado5, QStringLiteral("N"));
+    d.apartado5.IVA = d.apartado5.GENERAL = d.apartado5.IRPFDIRECTA = QStringLiteral("S");
+    for (int i = 0; i < participes; ++i) {
+        auto p = std::make_shared<cParticipes>(d.participantes, d.estado.RutaBDModificacion);
+        p->DNI = QStringLiteral("12345678Z");
+        p->PorcenPart = 100.0F / static_cast<float>(participes);
+        d.participantes.colParticipes.push_back(std::move(p));
+        d.IncrementarNumParti();
+    }
+}
+
+/// All rules across sections, which a save runs, by the number of participants.
+void ValidarCruces(benchmark::State& estado) {
+    const Carpeta carpeta(false);
+    Banco banco(carpeta.ruta());
+    banco.programa.Iniciar();
+    auto& d = banco.programa.declaracion();
+    llenarSecciones(d, static_cast<int>(estado.range(0)));
+    const ServidorNif valida = [&banco](const QString& nif) {
+        return banco.programa.estado().ValidaNifCif(nif);
+    };
+    if (!ValidarApartados(d, valida).revision.valida() ||
+        !ValidarPorcentajes(d.participantes).valida())
+        estado.SkipWithError("a rule is broken");
+    for (auto _ : estado) {
+        benchmark::DoNotOptimize(ValidarApartados(d, valida));
+        benchmark::DoNotOptimize(ValidarPorcentajes(d.participantes));
+    }
+}
+BENCHMARK(ValidarCruces)->Arg(2)->Arg(100)->Unit(benchmark::kNanosecond);
+
 void ImprimirDosCopias(benchmark::State& estado) {
     const Carpeta carpeta(false);
     Banco banco(carpeta.ruta());
@@ -245,7 +288,8 @@ void ImprimirDosCopias(benchmark::State& estado) {
     auto& d = banco.programa.declaracion();
     datos(d, 1);
     Imprimir imprimir(banco.programa.estado(),
-                      {d.general, d.apartado2, d.apartado3, d.apartado4, d.apartado5},
+                      {d.general, d.apartado2, d.apartado3, d.apartado4, d.apartado5, d.apartado6,
+                       d.apartado7, d.participantes, d.anexoII},
                       banco.impresora);
     for (auto _ : estado)
         for (const QString& copia : CopiasPedidas({})) imprimir.ImprimirDeclaracion(copia);

@@ -7,7 +7,7 @@ function floor(path) {
     if (path ~ /^core\/[^\/]+$/) return 20
     if (path ~ /^ui\//) return 25
     if (path ~ /^(sections|participants)\//) return screen(path) ? 60 : 30
-    if (path ~ /^declaration\/(section6|general_data)\./) return 30
+    if (path ~ /^declaration\/(section6|section6_rules|general_data)\./) return 30
     if (path ~ /^store\/list\/dec_lista/) return 30
     if (path ~ /^declaration\/[^\/]+$/) return 40
     if (path ~ /^printing\/[^\/]+$/) return 50

@@ -2,16 +2,21 @@
 
 #include "core/help/show_help.h"
 #include "core/startup.h"
+#include "declaration/screen/frm_apartado6.h"
 #include "declaration/screen/frm_dat_gen.h"
 #include "online/frm_about.h"
 #include "online/frm_idioma.h"
 #include "online/frm_inicio.h"
+#include "participants/screen/frm_datos_participe.h"
+#include "participants/screen/frm_lista_participes.h"
 #include "platform/instance_mark.h"
 #include "printing/ui/frm_im_of.h"
 #include "sections/location/screen/frm_apartado2.h"
 #include "sections/location/screen/frm_apartado3.h"
+#include "sections/tax/screen/frm_anexo2.h"
 #include "sections/tax/screen/frm_apartado4.h"
 #include "sections/tax/screen/frm_apartado5.h"
+#include "sections/tax/screen/frm_apartado7.h"
 #include "store/list/frm_dec_lista.h"
 #include "ui/qt_language.h"
 
@@ -76,23 +81,32 @@ QWidget* Programa::CrearLista() {
 }
 
 void Programa::registrarApartados(const Contexto& contexto) {
-    ventana_->Registrar(QStringLiteral("FrmApartado2"), [this, contexto]() -> QWidget* {
-        return new FrmApartado2(contexto, *declaracion_);
-    });
+    registrar<FrmApartado2>(contexto, QStringLiteral("FrmApartado2"));
     registrarEdiciones<FrmApartado3>(contexto, QStringLiteral("FrmApartado3"));
     registrarEdiciones<frmApartado4>(contexto, QStringLiteral("frmApartado4"));
     registrarEdiciones<frmApartado5>(contexto, QStringLiteral("frmApartado5"));
+    registrar<frmApartado6>(contexto, QStringLiteral("frmApartado6"));
+    registrar<FrmApartado7>(contexto, QStringLiteral("FrmApartado7"));
+    registrar<frmListaParticipes>(contexto, QStringLiteral("frmListaParticipes"));
+    registrar<frmDatosParticipe>(contexto, QStringLiteral("frmDatosParticipe"));
+    registrar<frmAnexoII>(contexto, QStringLiteral("frmAnexoII"));
+}
+
+template <class Formulario>
+void Programa::registrar(const Contexto& contexto, const QString& nombre) {
+    ventana_->Registrar(
+        nombre, [this, contexto]() -> QWidget* { return new Formulario(contexto, *declaracion_); });
 }
 
 template <class Formulario>
 void Programa::registrarEdiciones(const Contexto& contexto, const QString& nombre) {
-    const auto registrar = [&](const QString& conEdicion, Edicion edicion) {
+    const auto registrarUna = [&](const QString& conEdicion, Edicion edicion) {
         ventana_->Registrar(conEdicion, [this, contexto, edicion]() -> QWidget* {
             return new Formulario(contexto, *declaracion_, edicion);
         });
     };
-    registrar(nombre, Edicion::Hasta2014);
-    registrar(nombre + QStringLiteral("_2015"), Edicion::Desde2015);
+    registrarUna(nombre, Edicion::Hasta2014);
+    registrarUna(nombre + QStringLiteral("_2015"), Edicion::Desde2015);
 }
 
 void Programa::registrarPantallas() {

@@ -51,6 +51,8 @@ public:
 private:
     void registrarPantallas();
     void registrarApartados(const Contexto& contexto);
+    template <class Formulario>
+    void registrar(const Contexto& contexto, const QString& nombre);
     /// A screen with an edition before 2015 and one since then.
     template <class Formulario>
     void registrarEdiciones(const Contexto& contexto, const QString& nombre);

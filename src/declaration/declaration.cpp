@@ -37,6 +37,10 @@ cDeclaraciones::cDeclaraciones(EstadoCompartido& estadoDado, Pantallas& pantalla
 void cDeclaraciones::InicializarDeclaracion() {
     general.InicializarDatosGenerales();
     general.IniciarVarGen();
+    blanquearApartados();
+}
+
+void cDeclaraciones::blanquearApartados() {
     apartado2.ResetForNewDeclaration();
     apartado3.ResetForNewDeclaration();
     apartado4.ResetForNewDeclaration();
@@ -56,6 +60,9 @@ void cDeclaraciones::CargarDeclaracion() {
         servidor.mdbname = estado.RutaBDModificacion;
         servidor.CargarDeclaracion(csde, filas);
     }
+    // Where a row has no province, a record keeps the one that it has: it must not be that of the
+    // declaration before.
+    blanquearApartados();
     general.CargarDatos(filas.general, filas.numParti);
     apartado2.CargarDatos(filas.apartado2);
     apartado3.CargarDatos(filas.apartado3);
@@ -240,10 +247,14 @@ bool cDeclaraciones::MarcarAnexoPorCese() {
 }
 
 bool cDeclaraciones::HayModificaciones() const {
+    const auto modificado = [](const auto& participe) {
+        return participe && participe->MODIFPARTICIPES;
+    };
     return estado.ModificacionesPendientes || apartado2.Modificaciones ||
            apartado3.Modificaciones || apartado4.MODIFAPARTADO4 || apartado5.MODIFAPARTADO5 ||
            apartado6.MODIFAPARTADO6 || apartado7.Modificaciones ||
-           (participantes.ParticipeActual && participantes.ParticipeActual->MODIFPARTICIPES);
+           modificado(participantes.ParticipeActual) ||
+           std::ranges::any_of(participantes.colParticipes, modificado);
 }
 
 }  // namespace padral

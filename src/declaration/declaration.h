@@ -75,6 +75,7 @@ public:
     cParLista parLista;
 
 private:
+    void blanquearApartados();
     void cambiarNumParti(int cambio);
     bool mostrar(const QString& pantalla);
     QString prepararParticipe();

@@ -24,9 +24,17 @@ constexpr Rotulo rotulosReferencia[] = {
     EnAncho(AnchoReferencia, Cas(XReferencia, 21.5F, u"Nº Referencia")),
 };
 
-constexpr Rotulo rotulosAutoridad[] = {
-    Cas(20, 10, u"Kelmariako Foru Aldundia"),
-    Cas(20, 13, u"Diputación Foral de Kelmaria"),
+/// Where the authority stands in a heading; its lines keep their order and their left edges.
+struct LugarAutoridad {
+    Mm xNombres;
+    Mm yEuskera, yCastellano, yWeb;
+};
+constexpr LugarAutoridad autoridadPrimeras = {20, 19, 21.5F, 25};
+constexpr LugarAutoridad autoridadDemas = {19, 18, 20.5F, 24};
+
+constexpr Rotulo nombresAutoridad[] = {
+    Cas(0, 10, u"Kelmariako Foru Aldundia"),
+    Cas(0, 13, u"Diputación Foral de Kelmaria"),
 };
 
 constexpr Raya rayasIdentificacion[] = {
@@ -59,12 +67,19 @@ QString NombreDepartamento(EstadoCompartido& estado, int idioma) {
     return nombre;
 }
 
-void EscribirDepartamento(const Hoja& hoja, Mm x, Mm y) {
+void EscribirAutoridad(const Hoja& hoja, Mm x, Mm y, const LugarAutoridad& lugar) {
     Impresora& p = hoja.impresora;
+    PonerFuente(p, FuenteEstrecha);
+    DibujarRotulos(p, x + lugar.xNombres, y, {7, true, nombresAutoridad});
     p.estado.negrita = false;
-    EscribirTexto(p, x + 10, y + 19, NombreDepartamento(hoja.estado, IdiomaEuskera));
-    EscribirTexto(p, x + 10, y + 21.5F, NombreDepartamento(hoja.estado, IdiomaCastellano));
-    EscribirTexto(p, x + 10, y + 25, SvrBaseComunLib::DireccionWebAutoridad());
+    EscribirTexto(p, x + 10, y + lugar.yEuskera, NombreDepartamento(hoja.estado, IdiomaEuskera));
+    EscribirTexto(p, x + 10, y + lugar.yCastellano,
+                  NombreDepartamento(hoja.estado, IdiomaCastellano));
+    EscribirTexto(p, x + 10, y + lugar.yWeb, SvrBaseComunLib::DireccionWebAutoridad());
+}
+
+void PintarEmblema(Impresora& p, Mm x, Mm y) {
+    p.PintarImagen(QString::fromUtf16(ImagenEmblema), {x + 2, y + 3}, Tamano{14, 14});
 }
 
 void EscribirNumeroImpreso(Impresora& p, Mm x, Mm y) {
@@ -97,11 +112,15 @@ void DibujarCabeceraComun(const Hoja& hoja, Mm x, Mm y) {
     Impresora& p = hoja.impresora;
     DibujarMarco(p, x, y, x + AnchoImpreso, y + AltoCabecera);
     DibujarRayas(p, x, y, rayasCabecera);
-    p.PintarImagen(QString::fromUtf16(ImagenEmblema), {x + 2, y + 3}, Tamano{14, 14});
-    PonerFuente(p, FuenteEstrecha);
-    DibujarRotulos(p, x, y, {7, true, rotulosAutoridad});
-    EscribirDepartamento(hoja, x, y);
+    PintarEmblema(p, x, y);
+    EscribirAutoridad(hoja, x, y, autoridadPrimeras);
     EscribirNumeroImpreso(p, x, y);
+}
+
+void DibujarAutoridad(const Hoja& hoja, Mm x, Mm y) {
+    EscribirAutoridad(hoja, x, y, autoridadDemas);
+    PonerFuente(hoja.impresora, FuenteRomana);
+    PintarEmblema(hoja.impresora, x, y);
 }
 
 void DibujarIdentificacion(const Hoja& hoja, Mm x, Mm y) {

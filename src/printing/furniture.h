@@ -10,6 +10,10 @@ namespace padral {
 /// follow.
 void DibujarCabeceraComun(const Hoja& hoja, Mm x, Mm y);
 
+/// Authority and emblem in the heading of the fourth page and the annexes: names, department in
+/// both languages, web address. Leaves "times new roman", size 7, not bold.
+void DibujarAutoridad(const Hoja& hoja, Mm x, Mm y);
+
 /// Identification block, 12 mm high without its outer frame, which the page draws.
 void DibujarIdentificacion(const Hoja& hoja, Mm x, Mm y);
 /// Its values; leaves size 8.

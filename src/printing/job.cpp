@@ -1,9 +1,12 @@
 #include "printing/job.h"
 
 #include "declaration/general_data.h"
+#include "printing/annex1.h"
+#include "printing/annex2.h"
 #include "printing/page1.h"
 #include "printing/page2.h"
 #include "printing/page3.h"
+#include "printing/page4.h"
 #include "printing/primitives.h"
 
 namespace padral {
@@ -38,11 +41,33 @@ bool ConApartado4o5(const RegistrosImpresos& registros, const QString& /*tipoCop
     return datos.Apartado4 == u"X" || datos.Apartado5 == u"X";
 }
 
+bool ConApartado6o7(const RegistrosImpresos& registros, const QString& /*tipoCopia*/) {
+    const cDatosGenerales& datos = registros.generales;
+    return datos.Apartado6 == u"X" || datos.Apartado7 == u"X";
+}
+
+bool ConAnexoI(const RegistrosImpresos& registros, const QString& /*tipoCopia*/) {
+    return registros.generales.AnexoI == u"X";
+}
+
+/// The authority keeps two sets of the participants.
+bool ConAnexoIRepetido(const RegistrosImpresos& registros, const QString& tipoCopia) {
+    return ConAnexoI(registros, tipoCopia) && tipoCopia == u"AD";
+}
+
+bool ConAnexoII(const RegistrosImpresos& registros, const QString& /*tipoCopia*/) {
+    return registros.generales.AnexoII == u"X";
+}
+
 // In the order of the copy.
 constexpr EntradaPagina paginas[] = {
     {Siempre, 0.1F, 38.5F, ImprimirPaginasPrincipales},
     {ConApartado2o3, 0.1F, 35.5F, ImprimirHoja2},
     {ConApartado4o5, 0.1F, 4, ImprimirApartados4y5},
+    {ConApartado6o7, 0.1F, 34, ImprimirApartados6y7},
+    {ConAnexoI, 0.1F, 3, ImprimirAnexoI},
+    {ConAnexoIRepetido, 0.1F, 3, ImprimirAnexoI},
+    {ConAnexoII, 0.1F, 3, ImprimirAnexoII},
 };
 
 QString TituloDocumento(const RegistrosImpresos& registros, const QString& tipoCopia) {

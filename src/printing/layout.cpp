@@ -12,7 +12,9 @@ void EscribirSuelto(Impresora& p, Mm x, Mm y, const Rotulo& r) {
     const QString texto = Cadena(r.texto);
     p.estado.cursiva = r.forma == Forma::Euskera;
     p.estado.subrayado = r.subrayado;
-    if (r.ancho > 0)
+    if (r.enPunto)
+        EscribirCentrado(p, x + r.x, y + r.y, texto, false);
+    else if (r.ancho > 0)
         EscribirCentradoEnAncho(p, x + r.x, y + r.y, r.ancho, texto);
     else if (r.puntosHasta > 0)
         EscribirConPuntos(p, x + r.x, y + r.y, x + r.puntosHasta, texto);
@@ -21,15 +23,23 @@ void EscribirSuelto(Impresora& p, Mm x, Mm y, const Rotulo& r) {
     p.estado.cursiva = p.estado.subrayado = false;
 }
 
+void EscribirPar(Impresora& p, Mm x, Mm y, const Rotulo& r) {
+    const QString eus = Cadena(r.texto);
+    const QString cas = Cadena(r.segundo);
+    if (r.enPunto)
+        EscribirBilingueCentrado(p, x + r.x, y + r.y, eus, cas);
+    else if (r.ancho > 0)
+        EscribirBilingueCentradoEnAncho(p, x + r.x, y + r.y, r.ancho, eus, cas);
+    else
+        EscribirBilingue(p, x + r.x, y + r.y, eus, cas);
+}
+
 void EscribirRotulo(Impresora& p, Mm x, Mm y, const Rotulo& r) {
     if (r.forma == Forma::Ninguna) return;
-    if (r.forma != Forma::Par)
-        EscribirSuelto(p, x, y, r);
-    else if (r.ancho > 0)
-        EscribirBilingueCentradoEnAncho(p, x + r.x, y + r.y, r.ancho, Cadena(r.texto),
-                                        Cadena(r.segundo));
+    if (r.forma == Forma::Par)
+        EscribirPar(p, x, y, r);
     else
-        EscribirBilingue(p, x + r.x, y + r.y, Cadena(r.texto), Cadena(r.segundo));
+        EscribirSuelto(p, x, y, r);
 }
 
 void DibujarNumero(Impresora& p, Mm x, Mm y, const Casilla& c, float cuerpo) {

@@ -55,14 +55,16 @@ constexpr Marco Cuadro(Mm x, Mm y) { return {x, y, x + 4, y + 4}; }
 /// How a caption is written. Basque beside Spanish is in italics, a language alone is not.
 enum class Forma { Ninguna, Euskera, Castellano, Par, Sola };
 
-/// A caption at a point or, with `ancho`, centred in that width from `x` (`y` is its top then).
+/// A caption at a point, centred on it or, with `ancho`, centred in that width from `x` (`y` is its
+/// top then).
 struct Rotulo {
     Forma forma = Forma::Ninguna;
     Mm x = 0, y = 0, ancho = 0;
     const char16_t* texto = nullptr;    ///< Basque text of a pair
     const char16_t* segundo = nullptr;  ///< Spanish text of a pair
     bool subrayado = false;             ///< not for a pair
-    Mm puntosHasta = 0;                 ///< with dots up to what stands there; not for a pair
+    bool enPunto = false;  ///< centred on the point: never bold, and in italics in a pair only
+    Mm puntosHasta = 0;    ///< with dots up to what stands there; not for a pair
 };
 
 constexpr Rotulo Eus(Mm x, Mm y, const char16_t* texto) {
@@ -77,6 +79,11 @@ constexpr Rotulo Par(Mm x, Mm y, const char16_t* eus, const char16_t* cas) {
 /// The same caption centred in a width.
 constexpr Rotulo EnAncho(Mm ancho, Rotulo rotulo) {
     rotulo.ancho = ancho;
+    return rotulo;
+}
+/// The same caption centred on its point.
+constexpr Rotulo EnPunto(Rotulo rotulo) {
+    rotulo.enPunto = true;
     return rotulo;
 }
 constexpr Rotulo Subrayado(Rotulo rotulo) {

@@ -71,12 +71,10 @@ std::vector<Fila> leerAuxiliar(SQLite::Database& db, qint32 csde) {
     return filas;
 }
 
-// Rows that are equal in the column keep the order in which they were inserted.
+// Rows that are equal in the column, and all without a column, keep the order in which they were
+// inserted.
 void ordenar(std::vector<Fila>& filas, int columna, bool descendente) {
-    if (columna < 1 || columna >= static_cast<int>(Columnas.size())) {
-        if (descendente) std::reverse(filas.begin(), filas.end());
-        return;
-    }
+    if (columna < 1 || columna >= static_cast<int>(Columnas.size())) return;
     const ColumnaLista& por = Columnas[static_cast<std::size_t>(columna)];
     std::stable_sort(filas.begin(), filas.end(), [&](const Fila& a, const Fila& b) {
         return descendente ? comparar(por, a, b) > 0 : comparar(por, a, b) < 0;

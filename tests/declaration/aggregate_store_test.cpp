@@ -40,6 +40,27 @@ TEST_F(IdaYVuelta, TodosLosApartadosValorPorValor) {
     EXPECT_FALSE(otra.d.HayModificaciones());
 }
 
+TEST_F(IdaYVuelta, AlAbrirOtraNadaQuedaDeLaAnterior) {
+    generalesValidos(g);
+    const qint32 vacia = d.GuardarDeclaracion();
+    OtraRun otra(estado);
+    otra.d.csde = guardarTodo();
+    otra.d.CargarDeclaracion();
+    otra.d.anexoII.CodigoProvincia = 28;
+    for (auto* bloque : {&otra.d.apartado2.Fis, &otra.d.apartado2.Not, &otra.d.apartado3.Act})
+        bloque->CodigoProvincia = 28;
+    otra.d.parLista.BUSQUEDA = QStringLiteral("B");
+    otra.d.parLista.MODIFLISTAPART = true;
+    otra.d.csde = vacia;
+    otra.d.CargarDeclaracion();
+    EXPECT_EQ(otra.d.anexoII.CodigoProvincia, 0);
+    EXPECT_EQ(otra.d.anexoII.NombreProvincia, QString());
+    for (const auto* bloque : {&otra.d.apartado2.Fis, &otra.d.apartado2.Not, &otra.d.apartado3.Act})
+        EXPECT_EQ(bloque->CodigoProvincia, 0);
+    EXPECT_EQ(otra.d.parLista.BUSQUEDA, QStringLiteral("N"));
+    EXPECT_FALSE(otra.d.parLista.MODIFLISTAPART);
+}
+
 TEST_F(IdaYVuelta, VacioYBlancoSonDistintos) {
     generalesValidos(g);
     g.NumeroArchivo = QString();

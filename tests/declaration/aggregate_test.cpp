@@ -115,6 +115,12 @@ TEST_F(Agregado, HayModificacionesEsEsaLista) {
     d.anexoII.Modificaciones = true;
     d.parLista.MODIFLISTAPART = true;
     EXPECT_FALSE(d.HayModificaciones()) << "Annex II and the list do not count";
+    // One that was deleted in the list is seldom the current one.
+    d.participantes.colParticipes.push_back(nuevoParticipe(u"X1234567L", u"E", 7));
+    EXPECT_FALSE(d.HayModificaciones());
+    d.participantes.colParticipes.front()->MODIFPARTICIPES = true;
+    EXPECT_TRUE(d.HayModificaciones());
+    d.participantes.colParticipes.clear();
     d.participantes.ParticipeActual.reset();
     EXPECT_FALSE(d.HayModificaciones());
 }

@@ -1,49 +1,22 @@
 // Section 2 on a small screen: nothing cut, nothing hidden, in both languages and with big letters.
 
-#include <QScrollArea>
-
 #include "location/section2_fixture.h"
-#include "screens/screen_audit.h"
+#include "screens/screen_aspects.h"
 
 namespace padral::pruebas {
 namespace {
 
-struct Aspecto {
-    bool euskera;
-    double letra;
-};
-void PrintTo(const Aspecto& a, std::ostream* salida) {
-    *salida << (a.euskera ? "eu" : "es") << " x " << a.letra;
-}
-
-class Aspectos : public PantallaApartado2, public ::testing::WithParamInterface<Aspecto> {
-protected:
-    void SetUp() override {
-        PantallaApartado2::SetUp();
-        QFont otra = fuente_;
-        otra.setPointSizeF(fuente_.pointSizeF() * GetParam().letra);
-        QApplication::setFont(otra);
-        if (GetParam().euskera) enEuskera();
-        r.Fis = enProvinciaPropia();
-        r.Act = completa();
-        r.ElMismoSoc = q(u"X");
-    }
-    void TearDown() override {
-        PantallaApartado2::TearDown();
-        QApplication::setFont(fuente_);
-    }
-
-    const QFont fuente_ = QApplication::font();
-};
+using Aspectos = ConAspecto<PantallaApartado2>;
 
 TEST_P(Aspectos, NadaSaleCortado) {
+    r.Fis = enProvinciaPropia();
+    r.Act = completa();
+    r.ElMismoSoc = q(u"X");
     abrir();
     pantalla->resize(1240, std::max(600, pantalla->minimumSizeHint().height()));
     QCoreApplication::processEvents();
     EXPECT_LE(pantalla->minimumSizeHint().width(), 1240);
-    for (const auto& faltas : {RotulosCortados(*pantalla), TeclasRepetidas(*pantalla),
-                               TextosEnOtroIdioma(*pantalla, GetParam().euskera, {})})
-        EXPECT_TRUE(faltas.isEmpty()) << faltas.join(u'\n').toStdString();
+    revisar();
 }
 INSTANTIATE_TEST_SUITE_P(Tamanos, Aspectos,
                          ::testing::Values(Aspecto{false, 1}, Aspecto{true, 1}, Aspecto{false, 1.5},

@@ -7,6 +7,7 @@ namespace padral::test {
 namespace {
 
 const QString estrecha = QStringLiteral("Arial Narrow");
+const QString romana = QStringLiteral("times new roman");
 
 bool Cerca(float a, float b) { return std::fabs(a - b) < 0.002F; }
 bool Cerca(Punto p, float x, float y) { return Cerca(p.x, x) && Cerca(p.y, y); }
@@ -157,6 +158,26 @@ std::vector<TextoEsperado> Textos(float origen, const FilaPar& f) {
     return {{eus, x, y, f.cuerpo, b, true, estrecha},
             {QStringLiteral(" / ") + cas, x + AnchoFijo(eus, f.cuerpo, b, true), y, f.cuerpo, b,
              false, estrecha}};
+}
+
+std::vector<TextoEsperado> Textos(float origen, const FilaEnPunto& f) {
+    const QString eus = Cadena(f.eus);
+    const QString cas = f.cas != nullptr ? QStringLiteral(" / ") + Cadena(f.cas) : QString();
+    const float x = X + f.x - AnchoFijo(eus + cas, f.cuerpo, f.negrita, false) / 2;
+    const float y = origen + f.y - 0.4F * f.cuerpo / 2;
+    if (cas.isEmpty()) return {{eus, x, y, f.cuerpo, f.negrita, false, estrecha}};
+    const float segunda = x + AnchoFijo(eus, f.cuerpo, f.negrita, true);
+    return {{eus, x, y, f.cuerpo, f.negrita, true, estrecha},
+            {cas, segunda, y, f.cuerpo, f.negrita, false, estrecha}};
+}
+
+std::vector<TextoEsperado> EnRomana(std::vector<TextoEsperado> textos) {
+    for (auto& t : textos) t.fuente = romana;
+    return textos;
+}
+
+TextoEsperado ValorRomano(float origen, float x, float y, const QString& texto, float cuerpo) {
+    return EnRomana({ValorEsperado(origen, x, y, texto, cuerpo)}).front();
 }
 
 TextoEsperado ValorEsperado(float origen, float x, float y, const QString& texto, float cuerpo) {

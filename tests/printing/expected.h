@@ -38,6 +38,14 @@ struct FilaPar {
     bool negrita;
     const char16_t *eus, *cas;
 };
+/// A text or, with `cas`, a pair centred on a point in both directions.
+struct FilaEnPunto {
+    float x, y;
+    float cuerpo;
+    bool negrita;
+    const char16_t* eus;
+    const char16_t* cas = nullptr;
+};
 
 /// A text as it must be recorded.
 struct TextoEsperado {
@@ -78,7 +86,12 @@ QStringList TextosDePagina(const Documento& documento, int pagina);
 std::vector<TextoEsperado> Textos(float origen, const FilaNumero& fila, float cuerpo = 8);
 std::vector<TextoEsperado> Textos(float origen, const FilaTexto& fila);
 std::vector<TextoEsperado> Textos(float origen, const FilaPar& fila);
+std::vector<TextoEsperado> Textos(float origen, const FilaEnPunto& fila);
+/// The same texts in "times new roman".
+std::vector<TextoEsperado> EnRomana(std::vector<TextoEsperado> textos);
 /// A value in bold "Arial Narrow".
 TextoEsperado ValorEsperado(float origen, float x, float y, const QString& texto, float cuerpo = 8);
+/// A value in bold "times new roman".
+TextoEsperado ValorRomano(float origen, float x, float y, const QString& texto, float cuerpo = 8);
 
 }  // namespace padral::test

@@ -1,5 +1,7 @@
 #include "furniture_expected.h"
 
+#include <array>
+
 #include "store/common_server.h"
 
 namespace padral::test {
@@ -8,9 +10,12 @@ namespace {
 constexpr float YCabecera = 4;
 
 template <class Filas, class... Cuerpo>
-void EsperaTextos(Trazado& trazado, float origen, const Filas& filas, Cuerpo... cuerpo) {
-    for (const auto& fila : filas)
-        for (const auto& texto : Textos(origen, fila, cuerpo...)) trazado.Espera(texto);
+void EsperaTextos(Trazado& trazado, float origen, bool romana, const Filas& filas,
+                  Cuerpo... cuerpo) {
+    for (const auto& fila : filas) {
+        const auto textos = Textos(origen, fila, cuerpo...);
+        for (const auto& texto : romana ? EnRomana(textos) : textos) trazado.Espera(texto);
+    }
 }
 
 QString Departamento(int idioma) {
@@ -19,17 +24,28 @@ QString Departamento(int idioma) {
     return comun.HaciendaFiscalidad();
 }
 
-void EsperaDepartamento(Trazado& trazado) {
+/// The lines of the authority; names at `xNombres`, the others at 10.
+void EsperaLineasAutoridad(Trazado& trazado, float origen, float xNombres,
+                           std::array<float, 3> departamento) {
+    const FilaTexto nombres[] = {
+        {xNombres, 10, 0, 7, true, false, u"Kelmariako Foru Aldundia"},
+        {xNombres, 13, 0, 7, true, false, u"Diputación Foral de Kelmaria"},
+    };
+    EsperaTextos(trazado, origen, false, nombres);
     const std::pair<QString, float> lineas[] = {
-        {Departamento(1000), 19.0F},
-        {Departamento(0), 21.5F},
-        {SvrBaseComunLib::DireccionWebAutoridad(), 25.0F},
+        {Departamento(1000), departamento[0]},
+        {Departamento(0), departamento[1]},
+        {SvrBaseComunLib::DireccionWebAutoridad(), departamento[2]},
     };
     for (const auto& [texto, y] : lineas) {
         EXPECT_FALSE(texto.isEmpty());
-        trazado.Espera({texto, X + 10, YCabecera + y - 0.35F * 0.4F * 7, 7, false, false,
+        trazado.Espera({texto, X + 10, origen + y - 0.35F * 0.4F * 7, 7, false, false,
                         QStringLiteral("Arial Narrow")});
     }
+    trazado.EsperaImagen(QStringLiteral("Diputacion"), X + 2, origen + 3, Tamano{14, 14});
+}
+
+void EsperaNumeroImpreso(Trazado& trazado) {
     const float ancho417 = 0.20F * 32 * 3;
     trazado.Espera({QStringLiteral("417"), X + 171.5F + 21.5F / 2 - ancho417 / 2, YCabecera + 3, 32,
                     false, false, QStringLiteral("times new roman")});
@@ -43,9 +59,10 @@ void EsperaBloque(Trazado& trazado, const BloqueEsperado& b) {
     for (const auto& f : b.rayas) trazado.EsperaLinea(b.origen, f);
     for (const auto& f : b.marcos) trazado.EsperaCaja(b.origen, f, 2);
     for (const auto& f : b.grises) trazado.EsperaGris(b.origen, f);
-    EsperaTextos(trazado, b.origen, b.numeros, b.cuerpoNumeros);
-    EsperaTextos(trazado, b.origen, b.textos);
-    EsperaTextos(trazado, b.origen, b.pares);
+    EsperaTextos(trazado, b.origen, b.romana, b.numeros, b.cuerpoNumeros);
+    EsperaTextos(trazado, b.origen, b.romana, b.textos);
+    EsperaTextos(trazado, b.origen, b.romana, b.pares);
+    EsperaTextos(trazado, b.origen, b.romana, b.centrados);
 }
 
 void EsperaCabecera(Trazado& trazado, std::span<const FilaTexto> titulos) {
@@ -54,16 +71,19 @@ void EsperaCabecera(Trazado& trazado, std::span<const FilaTexto> titulos) {
     const FilaTrazo rayas[] = {
         {59, 0, 59, 30}, {171.5F, 0, 171.5F, 30}, {171.5F, 17, 193, 17}, {171.5F, 25, 193, 25}};
     for (const auto& raya : rayas) trazado.EsperaLinea(YCabecera, raya);
-    trazado.EsperaImagen(QStringLiteral("Diputacion"), X + 2, YCabecera + 3, Tamano{14, 14});
     const FilaTexto textos[] = {
-        {20, 10, 0, 7, true, false, u"Kelmariako Foru Aldundia"},
-        {20, 13, 0, 7, true, false, u"Diputación Foral de Kelmaria"},
         {171.5F, 18, 21.5F, 8, false, true, u"Erreferentzia zk"},
         {171.5F, 21.5F, 21.5F, 8, false, false, u"Nº Referencia"},
     };
-    EsperaTextos(trazado, YCabecera, textos);
-    EsperaTextos(trazado, YCabecera, titulos);
-    EsperaDepartamento(trazado);
+    EsperaTextos(trazado, YCabecera, false, textos);
+    EsperaTextos(trazado, YCabecera, false, titulos);
+    EsperaLineasAutoridad(trazado, YCabecera, 20, {19, 21.5F, 25});
+    EsperaNumeroImpreso(trazado);
+}
+
+void EsperaAutoridad(Trazado& trazado, float origen) {
+    SCOPED_TRACE("authority");
+    EsperaLineasAutoridad(trazado, origen, 19, {18, 20.5F, 24});
 }
 
 BloqueEsperado IdentificacionEsperada(float origen) {

@@ -97,13 +97,23 @@ TEST(ImprimirDeclaracion, LaHoja3ConElApartado4OEl5) {
     }
 }
 
+TEST(ImprimirDeclaracion, LaHoja4ConElApartado6OEl7) {
+    for (const auto& fila : secciones) {
+        Impresion impresion;
+        impresion.datos.Apartado6 = QString::fromUtf16(fila.primero);
+        impresion.datos.Apartado7 = QString::fromUtf16(fila.segundo);
+        EXPECT_EQ(impresion.Copia().paginasTerminadas, fila.paginas);
+    }
+}
+
 /// Titles of the sections, and stamps, with the page on which they stand.
 QStringList Recorrido(const Documento& documento) {
     QStringList recorrido;
     for (const auto& o : documento.operaciones) {
         const bool sello = o.tipo == Operacion::Imagen && o.desde.x > 190;
         const bool titulo = o.tipo == Operacion::Texto &&
-                            (o.texto.contains(u"ATALA: ") || o.texto.startsWith(u"APARTADO "));
+                            (o.texto.contains(u"ATALA: ") || o.texto.contains(u"ATALA, ") ||
+                             o.texto.startsWith(u"APARTADO "));
         if (sello || titulo) recorrido << QStringLiteral("%1 %2").arg(o.pagina).arg(o.texto);
     }
     return recorrido;
@@ -113,6 +123,7 @@ TEST(ImprimirDeclaracion, LasHojasVanEnSuOrdenEnCadaCopia) {
     Impresion impresion;
     impresion.datos.Apartado3 = QStringLiteral("X");
     impresion.datos.Apartado5 = QStringLiteral("X");
+    impresion.datos.Apartado6 = QStringLiteral("X");
     for (const auto& [tipo, sello] :
          {std::pair(u"AD", u"Administracion"), std::pair(u"IT", u"Interesado"),
           std::pair(u"BO", u"Borrador")}) {
@@ -125,7 +136,10 @@ TEST(ImprimirDeclaracion, LasHojasVanEnSuOrdenEnCadaCopia) {
             QStringLiteral("2 ") + nombre,
             QStringLiteral("3 APARTADO 4: SOLICITUDES ESPECIFICAS"),
             QStringLiteral("3 APARTADO 5: SITUACIÓN TRIBUTARIA Y DECLARACIONES LIQUIDACIONES"),
-            QStringLiteral("3 ") + nombre};
+            QStringLiteral("3 ") + nombre,
+            QStringLiteral("4 6.ATALA: AMIERA"),
+            QStringLiteral("4 7. ATALA, BATASUNAREN BARRUKO ERAGIKETAK"),
+            QStringLiteral("4 ") + nombre};
         const Documento& documento = impresion.Copia(QString::fromUtf16(tipo));
         EXPECT_EQ(Recorrido(documento), esperado);
         EXPECT_TRUE(documento.cerrado);
@@ -202,6 +216,20 @@ TEST(ImprimirDeclaracion, NoCambiaLosApartados4Y5) {
     impresion.Copia();
     EXPECT_EQ(impresion.apartado4, antes4);
     EXPECT_EQ(impresion.apartado5, antes5);
+}
+
+TEST(ImprimirDeclaracion, NoCambiaLosApartados6Y7) {
+    Impresion impresion;
+    impresion.datos.Apartado6 = QStringLiteral("X");
+    impresion.apartado6.FECHACESE = 20151231;
+    impresion.apartado6.DESCRIPCIONCAUSA = QStringLiteral("JUBILACIÓN");
+    impresion.apartado7.LimSupPais[24] = QStringLiteral("S");
+    impresion.apartado7.Agric = QStringLiteral("S");
+    const DatosApartado6 antes6 = impresion.apartado6;
+    const DatosApartado7 antes7 = impresion.apartado7;
+    impresion.Copia();
+    EXPECT_EQ(impresion.apartado6, antes6);
+    EXPECT_EQ(impresion.apartado7, antes7);
 }
 
 }  // namespace

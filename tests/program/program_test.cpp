@@ -219,9 +219,12 @@ TEST_F(Programa, TourLeavesPicturesAndPrintedPages) {
     const QString texto = QString::fromUtf8(proceso.readAllStandardOutput());
     EXPECT_TRUE(texto.contains(QStringLiteral("The tour is over: "))) << texto.toStdString();
     const QDir salida(carpeta_.filePath(Salida));
-    // Two copies in each language.
-    EXPECT_EQ(salida.entryList({QStringLiteral("417-A12345674-*.pdf")}).size(), 4);
-    EXPECT_EQ(salida.entryList({QStringLiteral("*.png")}).size(), 46);
+    // Two copies in each language of a company, a community and a non-resident.
+    for (const char* nif : {"A12345674", "E12345674", "N1234567D"})
+        EXPECT_EQ(salida.entryList({QStringLiteral("417-%1-*.pdf").arg(QLatin1String(nif))}).size(),
+                  4)
+            << nif;
+    EXPECT_EQ(salida.entryList({QStringLiteral("*.png")}).size(), 58);
 }
 
 }  // namespace

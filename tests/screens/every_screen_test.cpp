@@ -36,6 +36,10 @@ const QMap<QString, QStringList> Bilingues = {
      {QStringLiteral("FrmIdioma"), QStringLiteral("frame1"), QStringLiteral("cmdcastellano"),
       QStringLiteral("cmdeuskera"), QStringLiteral("chkActOnline"),
       QStringLiteral("lblActOnline")}},
+    {QStringLiteral("FrmApartado7"),
+     {QStringLiteral("lblChipre"), QStringLiteral("lblEslovaquia"), QStringLiteral("lblEslovenia"),
+      QStringLiteral("lblEstonia"), QStringLiteral("lblHungria"), QStringLiteral("lblLituania"),
+      QStringLiteral("lblMalta"), QStringLiteral("lblPolonia"), QStringLiteral("lblRepCheca")}},
     {QStringLiteral("frmAbout"), {QStringLiteral("lblcopy")}},
     {QStringLiteral("frmInicio"),
      {QStringLiteral("lblTitulo"), QStringLiteral("lblTitulo1"), QStringLiteral("lblVersion"),
@@ -96,9 +100,9 @@ protected:
         return QString::fromLatin1(euskera() ? vasca : castellana);
     }
     /// A new declaration whose effective date lies on one side of 1 January 2015 or the other.
-    void declarar(bool desde2015) {
+    void declarar(bool desde2015, const char* nif = "12345678Z") {
         guia().Ordenar(QStringLiteral("Nueva"));
-        guia().Escribir(QStringLiteral("txtDNI"), QStringLiteral("12345678Z"));
+        guia().Escribir(QStringLiteral("txtDNI"), QString::fromLatin1(nif));
         guia().Escribir(QStringLiteral("txtNombre"), QStringLiteral("Lasa Etxe, Jon"));
         guia().Escribir(QStringLiteral("mskFechaDeclaracion"), fecha("31012026", "20260131"));
         guia().Pulsar(QStringLiteral("chkElMismo"));
@@ -126,6 +130,52 @@ protected:
         mirarVentana(formulario, "no branch");
         guia().Pulsar(QStringLiteral("cmdCancelar"));
     }
+    void recorrerApartado6() {
+        guia().Ordenar(QStringLiteral("Nueva"));
+        guia().Escribir(QStringLiteral("txtDNI"), QStringLiteral("12345678Z"));
+        guia().Escribir(QStringLiteral("txtNombre"), QStringLiteral("Lasa Etxe, Jon"));
+        guia().Escribir(QStringLiteral("mskFechaDeclaracion"), fecha("31012026", "20260131"));
+        guia().Pulsar(QStringLiteral("chkElMismo"));
+        guia().Pulsar(QStringLiteral("chkDeclaracionCese"));
+        guia().Pulsar(QStringLiteral("cmdApartado6"));
+        mirarVentana("frmApartado6");
+        guia().ElegirEnCombo(QStringLiteral("cmbDescripcion"),
+                             euskera() ? QStringLiteral("BESTE") : QStringLiteral("OTRAS"));
+        mirarVentana("frmApartado6", "free cause");
+        volver();
+        guia().Pulsar(QStringLiteral("cmdCancelar"));
+    }
+    void recorrerParticipes() {
+        declarar(true, "E12345674");
+        guia().Pulsar(QStringLiteral("chkApartado8"));
+        guia().Pulsar(QStringLiteral("cmdAnexo"));
+        mirarVentana("frmDatosParticipe", "new");
+        const std::pair<const char*, const char16_t*> campos[] = {
+            {"txtDNI", u"12345678Z"},   {"txtNombre", u"Aldabe Ruiz, Jon"},
+            {"txtSiglas", u"CL"},       {"txtDomicilio", u"Errota Zaharra"},
+            {"txtCodProvincia", u"20"}, {"txtCodigoPostal", u"20500"},
+            {"txtCodMunicipio", u"1"},  {"txtPorcentaje", u"60"}};
+        for (const auto& [campo, texto] : campos)
+            guia().Escribir(QString::fromLatin1(campo), QString::fromUtf16(texto));
+        guia().Pulsar(QStringLiteral("cmdAceptar"));
+        mirarVentana("frmDatosParticipe", "accepted");
+        guia().Pulsar(QStringLiteral("cmdVolver"));
+        mirarVentana("frmListaParticipes");
+        guia().Pulsar(QStringLiteral("cmdBuscar"));
+        mirarVentana("frmListaParticipes", "search");
+        guia().Pulsar(QStringLiteral("cmdBuscar"));
+        guia().Pulsar(QStringLiteral("cmdInicio"));
+        guia().Pulsar(QStringLiteral("cmdCancelar"));
+    }
+    void recorrerAnexoII() {
+        guia().Pulsar(QStringLiteral("chkAnexoII"));
+        guia().Pulsar(QStringLiteral("cmdAnexoII"));
+        mirarVentana("frmAnexoII");
+        guia().Pulsar(QStringLiteral("chklbl1Si"));
+        guia().Pulsar(QStringLiteral("chklbl5Si"));
+        mirarVentana("frmAnexoII", "all questions");
+        volver();
+    }
     /// Cancels whatever sections are open, back to the general data.
     void volver() {
         for (int i = 0; i < 6 && !pantalla("FrmDatGen"); ++i)
@@ -143,8 +193,15 @@ protected:
             volver();
             recorrerApartado5(desde2015 ? "frmApartado5_2015" : "frmApartado5");
             volver();
+            guia().Pulsar(QStringLiteral("chkApartado7"));
+            guia().Pulsar(QStringLiteral("cmdApartado7"));
+            mirarVentana("FrmApartado7");
+            volver();
+            recorrerAnexoII();
             guia().Pulsar(QStringLiteral("cmdCancelar"));
         }
+        recorrerParticipes();
+        recorrerApartado6();
     }
     void recorrerLista() {
         guardarUna();

@@ -74,7 +74,7 @@ TEST_F(Auxiliary, SortsByEachColumn) {
                                                  {"4", "ASC", {3, 2, 1, 4}},
                                                  {"5", "ASC", {2, 1, 3, 4}},
                                                  {"5", "DESC", {4, 1, 3, 2}},
-                                                 {"0", "DESC", {4, 3, 2, 1}},
+                                                 {"0", "DESC", {1, 2, 3, 4}},
                                                  {"6", "ASC", {1, 2, 3, 4}}})
         EXPECT_EQ(Keys({}, order.column, order.direction), order.keys)
             << order.column << order.direction;

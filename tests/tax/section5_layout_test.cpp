@@ -1,78 +1,40 @@
 // Section 5 on a small screen: nothing cut, nothing hidden, in both languages and with big letters.
 
-#include <QScrollArea>
 #include <algorithm>
 #include <map>
 
-#include "screens/screen_audit.h"
+#include "screens/screen_aspects.h"
 #include "tax/section5_fixture.h"
 
 namespace padral::pruebas {
 namespace {
 
-struct Aspecto {
-    bool euskera;
-    double letra;
-    Edicion edicion;
-};
-void PrintTo(const Aspecto& a, std::ostream* salida) {
-    *salida << (a.euskera ? "eu" : "es") << " x " << a.letra
-            << (a.edicion == Nueva5 ? " 2015" : "");
-}
-
-class Aspectos5 : public PantallaApartado5, public ::testing::WithParamInterface<Aspecto> {
+class Aspectos5 : public ConAspecto<PantallaApartado5> {
 protected:
-    void SetUp() override {
-        PantallaApartado5::SetUp();
-        QFont otra = fuente_;
-        otra.setPointSizeF(fuente_.pointSizeF() * GetParam().letra);
-        QApplication::setFont(otra);
-        if (GetParam().euskera) enEuskera();
-    }
-    void TearDown() override {
-        PantallaApartado5::TearDown();
-        QApplication::setFont(fuente_);
-    }
-    /// Puts the screen where the main window puts it, and looks at it.
-    void mirar(const char16_t* iva) {
-        SCOPED_TRACE(s(iva));
-        poner(u"N");
-        r.IVA = q(iva);
-        abrir(GetParam().edicion);
-        QScrollArea hueco;
-        hueco.setFrameShape(QFrame::NoFrame);
-        hueco.setWidgetResizable(true);
-        hueco.setWidget(pantalla.get());
-        hueco.resize(1280, 600);
-        hueco.show();
-        QCoreApplication::processEvents();
-        EXPECT_LE(pantalla->width(), 1280);
-        recorrer(hueco);
-        for (const auto& faltas : {RotulosCortados(*pantalla), TeclasRepetidas(*pantalla),
-                                   TextosEnOtroIdioma(*pantalla, GetParam().euskera, {})})
-            EXPECT_TRUE(faltas.isEmpty()) << faltas.join(u'\n').toStdString();
-        hueco.takeWidget();
-    }
-
     /// Every box comes into view when the answer before it is given.
-    void recorrer(QScrollArea& hueco) {
-        hueco.activateWindow();
-        ASSERT_TRUE(QTest::qWaitForWindowActive(&hueco));
+    void comprobar() override {
+        auto* hueco = pantalla->window();
+        hueco->activateWindow();
+        ASSERT_TRUE(QTest::qWaitForWindowActive(hueco));
         pantalla->FocoInicial()->setFocus(Qt::OtherFocusReason);
         for (QString nombre = foco(); nombre.startsWith(u"chk"); nombre = foco()) {
             const auto* casilla = ConPantalla::c(nombre);
             EXPECT_EQ(casilla->visibleRegion().boundingRect(), casilla->rect())
                 << nombre.toStdString();
-            QTest::keyClick(hueco.windowHandle(), Qt::Key_Return);
+            QTest::keyClick(hueco->windowHandle(), Qt::Key_Return);
         }
         EXPECT_EQ(foco(), q(u"cmdInicio"));
     }
-
-    const QFont fuente_ = QApplication::font();
 };
 
 TEST_P(Aspectos5, NadaSaleCortado) {
-    for (const auto* iva : {u"S", u"N", u" "}) mirar(iva);
+    for (const auto* iva : {u"S", u"N", u" "}) {
+        SCOPED_TRACE(s(iva));
+        poner(u"N");
+        r.IVA = q(iva);
+        abrir(GetParam().edicion);
+        mirar();
+    }
 }
 INSTANTIATE_TEST_SUITE_P(Tamanos, Aspectos5,
                          ::testing::Values(Aspecto{false, 1, Antigua5}, Aspecto{true, 1, Antigua5},

@@ -30,7 +30,8 @@ BotonesApartado* PantallaApartado::crearBotones(std::span<const BotonApartado> t
     });
     if (tabla.size() > Siguiente)
         Orden(botones_->Boton(Siguiente), [this] {
-            if (aceptado() && declaracion_.IrApartadoSiguiente(numero_)) descargar();
+            if (!aceptado()) return trasRechazarSiguiente();
+            if (declaracion_.IrApartadoSiguiente(numero_)) descargar();
         });
     return botones_;
 }

@@ -43,6 +43,8 @@ protected:
     virtual bool aceptado() = 0;
     /// Gives up what was changed since the section was last accepted.
     virtual void descartar() = 0;
+    /// After a refusal on the way on.
+    virtual void trasRechazarSiguiente() {}
     /// Where Cancel leads.
     virtual void trasCancelar() { volver(); }
     virtual void descargar();

@@ -3,15 +3,14 @@
 #include "sections/location/screen/address_block_widget.h"
 
 #include <QGridLayout>
-#include <QKeyEvent>
 
 #include "ui/fields.h"
+#include "ui/list_button.h"
 
 namespace padral {
 
 namespace {
 
-constexpr int TextoBoton = 97;
 constexpr int EntreFilas = 6;
 constexpr int EntreGrupos = 10;
 constexpr int DentroDelGrupo = 4;
@@ -19,19 +18,6 @@ constexpr int DentroDelGrupo = 4;
 constexpr int AnchoDeCodigo = 3;
 constexpr int MargenCampo = 16;
 constexpr QRgb GrisApagado = 0xFFE0E0E0;
-
-/// The button of a list; Enter presses it as the space bar does.
-class BotonLista : public QToolButton {
-public:
-    using QToolButton::QToolButton;
-
-protected:
-    void keyPressEvent(QKeyEvent* evento) override {
-        const bool intro = evento->key() == Qt::Key_Return || evento->key() == Qt::Key_Enter;
-        if (!intro) return QToolButton::keyPressEvent(evento);
-        if (!evento->isAutoRepeat()) click();
-    }
-};
 
 /// Width in characters of the font, so that it follows font and scale.
 int anchoDe(const QWidget* campo, const FilaDireccion& fila) {
@@ -71,9 +57,7 @@ void PanelDireccion::crearCampos() {
         if (tabla_.campos[i].control) crearCampo(i);
         for (std::size_t l = 0; l < NumCatalogos; ++l) {
             if (n(DatosDeCatalogo[l].codigo) != i || !tabla_.listas[l].boton) continue;
-            botones_[l] = new BotonLista(this);
-            botones_[l]->setObjectName(tabla_.nombrar(tabla_.listas[l].boton));
-            botones_[l]->setFocusPolicy(Qt::StrongFocus);
+            botones_[l] = new BotonLista(tabla_.nombrar(tabla_.listas[l].boton), this);
         }
     }
     for (const Dato derivado : {Dato::Via, Dato::Provincia})
@@ -157,7 +141,7 @@ void PanelDireccion::componer() {
 }
 
 void PanelDireccion::Anadir_captions(const QString& titulo) {
-    const QString delante = titulo.trimmed() + QStringLiteral(": ");
+    const QString delante = titulo.isEmpty() ? QString() : titulo.trimmed() + QStringLiteral(": ");
     for (std::size_t i = 0; i < NumDatos; ++i) {
         const QString& caption = estado_.Texto(tabla_.campos[i].caption);
         if (entradas_[i].etiqueta) entradas_[i].etiqueta->setText(caption);
@@ -166,7 +150,7 @@ void PanelDireccion::Anadir_captions(const QString& titulo) {
     for (std::size_t l = 0; l < NumCatalogos; ++l) {
         if (!botones_[l]) continue;
         const QString& ayuda = estado_.Texto(tabla_.listas[l].ayuda);
-        botones_[l]->setText(estado_.Texto(TextoBoton));
+        botones_[l]->setText(estado_.Texto(tabla_.textoBoton));
         botones_[l]->setToolTip(ayuda);
         botones_[l]->setAccessibleName(delante + ayuda);
         listas_[l]->setAccessibleName(

@@ -58,6 +58,7 @@ struct FilaDireccion {
     const char16_t* formato;   ///< of a number; nullptr for a text
     QString BloqueDireccion::*texto;
     qint32 BloqueDireccion::*numero;
+    bool conCero = false;  ///< of a number: 0 shows in its format, otherwise as nothing
 };
 
 /// The names of a pick list and its button.
@@ -74,6 +75,10 @@ struct TablaDireccion {
     std::array<FilaLista, NumCatalogos> listas;
     /// Gives the name of a control from its name in the tables.
     std::function<QString(const char16_t*)> nombrar;
+    int textoBoton = 97;  ///< text id on the buttons of the lists
+    /// Picking a province, too, empties code and name of the municipality. Otherwise the
+    /// territory's own province keeps the code.
+    bool provinciaVaciaMunicipio = false;
 };
 
 /// The address on a screen, two rows of fields. What is typed or picked goes into the record at
@@ -93,7 +98,7 @@ public:
     /// Runs after `alModificar` where the controls have to follow.
     std::function<void()> alRefrescar;
 
-    /// `titulo` names the address in front of every accessible name.
+    /// `titulo` names the address in front of every accessible name; empty: there is just one.
     void Anadir_captions(const QString& titulo);
     void CargarListas(const TablasCatalogo& tablas);
     /// Shows the record and locks the municipality's code or its name, by the province.

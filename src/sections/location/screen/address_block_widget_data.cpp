@@ -72,7 +72,12 @@ void PanelDireccion::PresentarDatos() {
     for (std::size_t i = 0; i < NumDatos; ++i) {
         const FilaDireccion& fila = tabla_.campos[i];
         if (entradas_[i].texto) entradas_[i].texto->Presentar(bloque_.*fila.texto);
-        if (entradas_[i].numero) entradas_[i].numero->PresentarSinCero(bloque_.*fila.numero);
+        if (!entradas_[i].numero) continue;
+        const qint32 valor = bloque_.*fila.numero;
+        if (fila.conCero)
+            entradas_[i].numero->Presentar(valor);
+        else
+            entradas_[i].numero->PresentarSinCero(valor);
     }
     const bool propia = bloque_.CodigoProvincia == ProvinciaPropia;
     bloquear(Campo(Dato::CodMunicipio), !propia);
@@ -211,7 +216,8 @@ void PanelDireccion::elegirVia(const QString& clave, const QString& texto, bool 
 void PanelDireccion::elegirProvincia(const QString& clave, const QString& texto, bool conIntro) {
     bloque_.NombreProvincia = texto;
     bloque_.CodigoProvincia = codigoDe(clave);
-    if (bloque_.CodigoProvincia != ProvinciaPropia) bloque_.CodigoMunicipio = 0;
+    if (tabla_.provinciaVaciaMunicipio || bloque_.CodigoProvincia != ProvinciaPropia)
+        bloque_.CodigoMunicipio = 0;
     bloque_.NombreMunicipio.clear();
     cambiado();
     auto* postal = Campo(Dato::Postal);

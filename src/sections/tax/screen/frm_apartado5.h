@@ -32,8 +32,6 @@ public:
     void Cargar() override;
     QWidget* FocoInicial() override { return filas_.front().si; }
 
-    /// Leaves for the general data as `cmdInicio` does, for the main window.
-
 private:
     struct FilaPregunta {
         const apartado5::Pregunta* pregunta;
