@@ -41,8 +41,9 @@ TEST_F(Aceptar, ConCambiosGuardaYCierra) {
     rellenarCampo(u"mskFechaDeclaracion", QStringLiteral("15062015"));
     pulsar(u"chkDeclaracionInicio");
     pulsar(u"chkElMismo");
+    responderApartado5();
     llenar(d, Apartado::Dos);
-    ponerParticipe(u"12345678Z", u"A");
+    ponerParticipe(u"12345678Z", u"A")->PorcenPart = 100;
     g.AnexoI = QString();
     pulsar(u"cmdAceptar");
     esperaCerrada();
@@ -102,6 +103,18 @@ TEST_F(Aceptar, LasPruebasEnSuOrden) {
     noSale();
     pulsar(u"chkDeclaracionInicio");
     pulsar(u"chkElMismo");
+    // A start marks section 5, which has no answer yet.
+    esperaAviso(82, 83);
+    pulsar(u"cmdAceptar");
+    avisos.Verificar();
+    noSale();
+    responderApartado5();
+    const auto participe = ponerParticipe(u"12345678Z", u"A");
+    esperaAviso(547, 381);
+    pulsar(u"cmdAceptar");
+    avisos.Verificar();
+    noSale();
+    participe->PorcenPart = 100;
     pulsar(u"cmdAceptar");
     esperaCerrada();
     EXPECT_EQ(declaracionesGuardadas(), 1);

@@ -52,6 +52,12 @@ protected:
         abrirRegistro();
     }
 
+    /// Answers that break no rule in a section 5 that was not accepted: it holds nothing yet.
+    void responderApartado5() {
+        for (const auto& c : TablaApartado5()) c.escribir(d.apartado5, QStringLiteral("N"));
+        d.apartado5.IVA = d.apartado5.GENERAL = QStringLiteral("S");
+    }
+
     template <class T = QWidget>
     T* c(const QString& nombre) {
         auto* control = pantalla->findChild<T*>(nombre);

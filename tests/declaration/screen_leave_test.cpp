@@ -101,7 +101,7 @@ TEST_F(Salidas, ImprimirConCambiosGuardaYTomaLaClaveNueva) {
     llenar(d, Apartado::Dos);
     d.apartado4.IRPFOBJET = QStringLiteral("O");
     d.apartado3.FechaInicio(20150101);
-    ponerParticipe(u"12345678Z", u"A");
+    ponerParticipe(u"12345678Z", u"A")->PorcenPart = 100;
     esperaPreguntaDeGrabar(Respuesta::Aceptar);
     pulsar(u"cmdImprimir");
     esperaImpresion();

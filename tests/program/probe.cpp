@@ -30,15 +30,24 @@ public:
     void Esperar(int) override {}
 };
 
-/// What the user does before the program ends.
-void actuar(Programa& programa, Guia& guia, const QString& accion) {
-    if (accion == QStringLiteral("start") || accion == QStringLiteral("exec")) return;
+/// A declaration that can be saved: a change of name, which needs no section.
+void declarar(Guia& guia) {
     guia.Ordenar(QStringLiteral("Nueva"));
     guia.Escribir(QStringLiteral("txtDNI"), QStringLiteral("12345678Z"));
     guia.Escribir(QStringLiteral("txtNombre"), QStringLiteral("Lasa Etxe, Jon"));
     guia.Escribir(QStringLiteral("mskFechaDeclaracion"), QStringLiteral("31012026"));
-    guia.Pulsar(QStringLiteral("chkDeclaracionInicio"));
+    guia.Pulsar(QStringLiteral("chkDeclaracionModificacion"));
+    guia.Escribir(QStringLiteral("mskFechaModificacion"), QStringLiteral("15012026"));
+    guia.ElegirPestana(QStringLiteral("Pestaña"), 1);
+    guia.ElegirEnCombo(QStringLiteral("cmbMotivoCambio"), QStringLiteral("20"));
+    guia.Escribir(QStringLiteral("txtNombreAnterior"), QStringLiteral("Lasa Etxe, Ion"));
     guia.Pulsar(QStringLiteral("chkElMismo"));
+}
+
+/// What the user does before the program ends.
+void actuar(Programa& programa, Guia& guia, const QString& accion) {
+    if (accion == QStringLiteral("start") || accion == QStringLiteral("exec")) return;
+    declarar(guia);
     if (accion == QStringLiteral("close")) {
         programa.ventana().close();
         return;

@@ -73,15 +73,21 @@ protected:
     QWidget* pantalla(const char* nombre) {
         return ventana().findChild<QWidget*>(QString::fromUtf8(nombre));
     }
-    /// Stores a declaration that breaks no rule.
+    /// Stores a declaration that breaks no rule: a change of name, which needs no section.
     void guardarUna(const QString& nif = QStringLiteral("12345678Z")) {
+        const bool euskera = estado().DesplazamientoIdioma != 0;
+        const auto fecha = [euskera](const char* castellana, const char* vasca) {
+            return QString::fromLatin1(euskera ? vasca : castellana);
+        };
         guia().Ordenar(QStringLiteral("Nueva"));
         guia().Escribir(QStringLiteral("txtDNI"), nif);
         guia().Escribir(QStringLiteral("txtNombre"), QStringLiteral("Lasa Etxe, Jon"));
-        const bool euskera = estado().DesplazamientoIdioma != 0;
-        guia().Escribir(QStringLiteral("mskFechaDeclaracion"),
-                        euskera ? QStringLiteral("20260131") : QStringLiteral("31012026"));
-        guia().Pulsar(QStringLiteral("chkDeclaracionInicio"));
+        guia().Escribir(QStringLiteral("mskFechaDeclaracion"), fecha("31012026", "20260131"));
+        guia().Pulsar(QStringLiteral("chkDeclaracionModificacion"));
+        guia().Escribir(QStringLiteral("mskFechaModificacion"), fecha("15012026", "20260115"));
+        guia().ElegirPestana(QStringLiteral("Pestaña"), 1);
+        guia().ElegirEnCombo(QStringLiteral("cmbMotivoCambio"), QStringLiteral("20"));
+        guia().Escribir(QStringLiteral("txtNombreAnterior"), QStringLiteral("Lasa Etxe, Ion"));
         guia().Pulsar(QStringLiteral("chkElMismo"));
         guia().Pulsar(QStringLiteral("cmdAceptar"));
     }

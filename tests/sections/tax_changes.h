@@ -5,6 +5,7 @@
 #include <utility>
 #include <vector>
 
+#include "core/review.h"
 #include "sections/record_checks.h"
 #include "sections/tax/section4.h"
 #include "sections/tax/section5.h"

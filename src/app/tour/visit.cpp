@@ -76,6 +76,10 @@ void Visita::pulsar(std::initializer_list<const char*> controles) {
     for (const char* control : controles) guia_->Pulsar(QString::fromLatin1(control));
 }
 
+void Visita::responder(std::initializer_list<int> casillas) {
+    for (const int casilla : casillas) guia_->Pulsar(QStringLiteral("chk%1").arg(casilla));
+}
+
 void Visita::buscar() {
     guia_->Ordenar(QStringLiteral("Abrir"));
     foto(QStringLiteral("30-list"));

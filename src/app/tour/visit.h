@@ -36,6 +36,8 @@ private:
     void foto(const QString& nombre) { guia_->Foto(idioma_ + u'-' + nombre); }
     void escribir(const std::vector<std::pair<const char*, const char16_t*>>& campos);
     void pulsar(std::initializer_list<const char*> controles);
+    /// Ticks boxes of section 5 by their numbers.
+    void responder(std::initializer_list<int> casillas);
     void nueva();
     void identificar(const QString& nif, const QString& nombre, const QString& referencia);
     QString fecha(const QString& dia, const QString& mes, const QString& anyo) const {
@@ -57,6 +59,7 @@ private:
 
     // The other declarants, in visit_others.cpp.
     void declararPersona();
+    void declararActividad();
     void mirarEdicionesAnteriores();
     void declararCese();
     void declararComunidad();

@@ -63,7 +63,9 @@ void Visita::declararDomicilios() {
 void Visita::declararDatos() {
     pulsar({"optResidente(0)"});
     escribir({{"txtDescripcionActividad", u"1.6912"}, {"txtAnagrama", u"Ibaialde"}});
+    // A company's letter ends its legal form: this is the first of the list.
     guia_->ElegirEnCombo(QStringLiteral("cmbDescFormaJuridica"), QStringLiteral("S"));
+    guia_->Escribir(QStringLiteral("mskFechaCierre"), QStringLiteral("3112"));
     pulsar(
         {"chkEuskera", "chkElectronico", "chkCorreoAlta", "chkTelMovilAlta", "chkConsentimiento"});
     escribir({{"txtDirCorreo", u"tailerra@ibaialde.example"}, {"numMovil", u"600112233"}});
@@ -81,9 +83,7 @@ void Visita::declararSolicitudes() {
 void Visita::declararSituacion() {
     // Yes to corporate tax, to the withholdings of wages, to the VAT with its general regime and to
     // the margin of second-hand goods, as the requests ask for; no to the rest.
-    for (const int casilla :
-         {2, 3, 6, 8, 10, 12, 14, 16, 17, 20, 22, 26, 27, 29, 32, 34, 38, 39, 42, 44, 46, 56})
-        guia_->Pulsar(QStringLiteral("chk%1").arg(casilla));
+    responder({2, 3, 6, 8, 10, 12, 14, 16, 17, 20, 22, 26, 27, 29, 32, 34, 38, 39, 42, 44, 46, 56});
     foto(QStringLiteral("12-section5"));
     pulsar({"cmdSiguiente"});
 }

@@ -15,7 +15,20 @@ void Visita::declararPersona() {
     foto(QStringLiteral("14-help"));
     guia_->Tecla(Qt::Key_Escape);
     guia_->TomarVentana();
+    declararActividad();
     pulsar({"cmdAceptar"});
+}
+
+// Who starts tells the activity and answers section 5, which the start has marked.
+void Visita::declararActividad() {
+    pulsar({"chkApartado3", "cmdApartado3", "optResidente(0)"});
+    guia_->Escribir(QStringLiteral("mskFechaInicio"),
+                    fecha(QStringLiteral("02"), QStringLiteral("11"), QStringLiteral("2026")));
+    guia_->Escribir(QStringLiteral("txtDescripcionActividad"), QStringLiteral("1.6912"));
+    pulsar({"cmdSiguiente"});
+    // Yes to direct estimation and to the VAT with its general regime; no to the rest.
+    responder({2, 4, 6, 8, 10, 12, 14, 16, 18, 20, 21, 26, 27, 29, 32, 34, 38, 40, 42, 44, 46, 56});
+    pulsar({"cmdInicio"});
 }
 
 // With an older effective date the sections open in their edition before 2015.

@@ -33,12 +33,18 @@ public:
     void PresentaDatos();
     /// Turns the buttons on and off.
     void Presentabotones();
+
+    // Rules, in frm_dat_gen_rules.cpp. The first broken one shows its message and gives false.
     /// Whether name and date are there and, with changes pending, the identifiers are right; the
     /// first failure shows its message. `validarNombre` false skips the test of the name.
     bool ValidacionIntroduccionDatos(bool validarNombre);
     bool NombreVacio() const;
     bool ValidarCausas();
     bool ValidarNifsPantalla();
+    /// The rules across the sections; the effective date that they work out becomes the run's.
+    bool ValidarApartados();
+    /// Whether the participants' shares add up; the declaration keeps their sum.
+    bool ValidarPorcentajes();
 
 private:
     // Construction, in frm_dat_gen_layout.cpp.

@@ -59,7 +59,8 @@ bool FrmDatGen::validarAntesDeGuardar() {
         enfocar(QStringLiteral("mskFechaDeclaracion"));
         return false;
     }
-    return ValidacionIntroduccionDatos(true) && ValidarCausas();
+    return ValidacionIntroduccionDatos(true) && ValidarCausas() && ValidarApartados() &&
+           ValidarPorcentajes();
 }
 
 qint32 FrmDatGen::guardar() {

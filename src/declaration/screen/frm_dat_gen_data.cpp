@@ -3,7 +3,6 @@
 #include <QFrame>
 #include <QStackedWidget>
 
-#include "declaration/general_rules.h"
 #include "declaration/screen/frm_dat_gen.h"
 
 namespace padral {
@@ -123,41 +122,6 @@ void FrmDatGen::enfocar(const QString& nombre) {
     if (fraSolicitud_->isAncestorOf(control)) presentarPestana(0);
     if (fraModificacion_->isAncestorOf(control)) presentarPestana(1);
     control->setFocus(Qt::OtherFocusReason);
-}
-
-bool FrmDatGen::NombreVacio() const { return general_.NOMBRE.trimmed().isEmpty(); }
-
-bool FrmDatGen::ValidacionIntroduccionDatos(bool validarNombre) {
-    if (validarNombre && NombreVacio()) {
-        estado_.Avisar(515, 125);
-        enfocar(QStringLiteral("txtNombre"));
-        return false;
-    }
-    if (general_.FECHADECLARACION == 0) {
-        estado_.Avisar(516, 517);
-        enfocar(QStringLiteral("mskFechaDeclaracion"));
-        return false;
-    }
-    return !estado_.ModificacionesPendientes || ValidarNifsPantalla();
-}
-
-bool FrmDatGen::ValidarCausas() {
-    const auto* regla = PrimeraCausaRota(general_);
-    if (!regla) return true;
-    estado_.Avisar(regla->texto, regla->titulo);
-    if (regla->pestanaModif) presentarPestana(1);
-    enfocar(QString::fromUtf16(regla->foco));
-    return false;
-}
-
-bool FrmDatGen::ValidarNifsPantalla() {
-    const auto valida = [this](const QString& nif) { return estado_.ValidaNifCif(nif); };
-    const auto rechazado = PrimerNifRechazado(general_, valida);
-    if (!rechazado) return true;
-    estado_.AvisarNifNoValido();
-    if (rechazado->pestanaModif) presentarPestana(1);
-    enfocar(QString::fromUtf16(rechazado->foco));
-    return false;
 }
 
 }  // namespace padral
