@@ -1,9 +1,31 @@
-# padral_library(name SOURCES ... LINKS ...): a static library of this project.
+# padral_together(name file...): compiles the sources of a target as one, with PADRAL_UNITY. Most of the
+# time of compiling goes into the same headers. Sources whose names begin with the same word of APART
+# are one of their own: they give the same names to different things than the others.
+function(padral_together name)
+  cmake_parse_arguments(ARG "" "" "SOURCES;APART" ${ARGN})
+  if(NOT PADRAL_UNITY)
+    return()
+  endif()
+  set_target_properties(${name} PROPERTIES UNITY_BUILD ON UNITY_BUILD_MODE GROUP)
+  foreach(source ${ARG_SOURCES})
+    set(group most)
+    foreach(prefix ${ARG_APART})
+      string(FIND ${source} ${prefix} place)
+      if(place EQUAL 0)
+        set(group ${prefix})
+      endif()
+    endforeach()
+    set_source_files_properties(${source} PROPERTIES UNITY_GROUP ${group})
+  endforeach()
+endfunction()
+
+# padral_library(name SOURCES ... LINKS ... [APART ...]): a static library of this project.
 function(padral_library name)
-  cmake_parse_arguments(ARG "" "" "SOURCES;LINKS" ${ARGN})
+  cmake_parse_arguments(ARG "" "" "SOURCES;LINKS;APART" ${ARGN})
   add_library(${name} STATIC ${ARG_SOURCES})
   target_include_directories(${name} PUBLIC ${PROJECT_SOURCE_DIR}/src)
   target_link_libraries(${name} PUBLIC padral_flags ${ARG_LINKS})
+  padral_together(${name} SOURCES ${ARG_SOURCES} APART ${ARG_APART})
 endfunction()
 
 # Tests are compiled for speed of compiling: they run once. What is looked for in them is the program's
@@ -31,10 +53,10 @@ function(padral_test_headers)
     <QApplication> <QCheckBox> <QComboBox> <QLabel> <QLineEdit> <QPushButton>)
 endfunction()
 
-# padral_test(name SOURCES ... LINKS ...): a GoogleTest program run by CTest, one entry a test, or one
+# padral_test(name SOURCES ... LINKS ... [APART ...]): a GoogleTest program run by CTest, one entry a test, or one
 # for the program with PADRAL_WHOLE_TESTS, where each start of a process costs much.
 function(padral_test name)
-  cmake_parse_arguments(ARG "" "" "SOURCES;LINKS" ${ARGN})
+  cmake_parse_arguments(ARG "" "" "SOURCES;LINKS;APART" ${ARGN})
   add_executable(${name} ${ARG_SOURCES})
   target_include_directories(${name} PRIVATE ${PROJECT_SOURCE_DIR}/tests)
   target_link_libraries(${name} PRIVATE padral_flags ${ARG_LINKS} GTest::gmock)
@@ -49,6 +71,7 @@ function(padral_test name)
       target_precompile_headers(${name} REUSE_FROM test_headers_windows)
     endif()
   endif()
+  padral_together(${name} SOURCES ${ARG_SOURCES} APART ${ARG_APART})
   if(PADRAL_WHOLE_TESTS)
     add_test(NAME ${name} COMMAND ${name})
     set_tests_properties(${name} PROPERTIES ENVIRONMENT "QT_QPA_PLATFORM=offscreen" TIMEOUT 900)

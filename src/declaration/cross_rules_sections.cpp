@@ -7,7 +7,7 @@ namespace padral {
 
 namespace {
 
-constexpr int Titulo = 125, TituloCruce = 510;
+constexpr int TituloSecciones = 125, TituloCruce = 510;
 /// From that effective date on who waives the simplified regime is not in the agricultural one.
 constexpr qint32 InicioIncompatibilidad = 20000101;
 
@@ -51,76 +51,77 @@ bool nadaLleno(const cDeclaraciones& d) {
            d.NumParti == 0 && !d.anexoII.Lleno;
 }
 
-constexpr std::array<ReglaCruzada, 18> Solicitudes = {{
+constexpr std::array<ReglaCruzada, 18> CrucesSolicitudes = {{
     {23, [](const Cruce& c) { return es(a4(c).IVAEXPORT, u'A') && !si(r5(c).IVA); }, 792, 483},
     {24, [](const Cruce& c) { return es(a4(c).IVAEXPORTINTRA, u'A') && sinOperacionesIva(r5(c)); },
      793, 483},
     {25, [](const Cruce& c) { return es(a4(c).IRPFOBJET, u'O') && !si(r5(c).IRPFOBJETIVA); }, 496,
-     Titulo},
+     TituloSecciones},
     {26,
      [](const Cruce& c) {
          const bool sinDirecta = !si(r5(c).IRPFDIRECTA) && !si(r5(c).IRPFDIRECTSIMPLIF);
          return exclusionORevocacion(a4(c).IRPFOBJET) && (!no(r5(c).IRPFOBJETIVA) || sinDirecta);
      },
-     497, Titulo},
+     497, TituloSecciones},
     {27, [](const Cruce& c) { return es(a4(c).IRPFDIRECT, u'O') && !si(r5(c).IRPFDIRECTSIMPLIF); },
-     498, Titulo},
+     498, TituloSecciones},
     {28,
      [](const Cruce& c) {
          return exclusionORevocacion(a4(c).IRPFDIRECT) && !si(r5(c).IRPFDIRECTSIMPLIF);
      },
-     499, Titulo},
+     499, TituloSecciones},
     {29,
      [](const Cruce& c) {
          return (es(a4(c).IVAAGRIC, u'E') || es(a4(c).IVAAGRIC, u'A')) &&
                 (!no(r5(c).Agric) || !no(r5(c).NOAGRIC));
      },
-     500, Titulo},
+     500, TituloSecciones},
     {30,
      [](const Cruce& c) {
          return es(a4(c).IVAAGRIC, u'R') && !si(r5(c).Agric) && !si(r5(c).NOAGRIC);
      },
-     501, Titulo},
+     501, TituloSecciones},
     {31,
      [](const Cruce& c) {
          return es(a4(c).IVASIMPLIF, u'A') && (!si(r5(c).IVA) || !no(r5(c).SIMPLIF));
      },
-     502, Titulo},
+     502, TituloSecciones},
     {32, [](const Cruce& c) { return es(a4(c).IVASIMPLIF, u'R') && !si(r5(c).SIMPLIF); }, 503,
-     Titulo},
+     TituloSecciones},
     {33,
      [](const Cruce& c) {
          return es(a4(c).IVASIMPLIF, u'A') && si(r5(c).Agric) &&
                 c.fechaVigor >= InicioIncompatibilidad;
      },
-     698, Titulo},
+     698, TituloSecciones},
     {34, [](const Cruce& c) { return es(a4(c).IVASIMPLIF, u'E') && !no(r5(c).SIMPLIF); }, 504,
-     Titulo},
+     TituloSecciones},
     {35,
      [](const Cruce& c) {
          return es(a4(c).IVAAGENCIAS, u'O') &&
                 (!si(r5(c).AGENCIASGLOBAL) || !no(r5(c).AGENCIASOPERACION));
      },
-     505, Titulo},
+     505, TituloSecciones},
     {36,
      [](const Cruce& c) {
          return c.d.general.FECHAVIGOR < InicioEdicion2015 && es(a4(c).IVAAGENCIAS, u'R') &&
                 (!no(r5(c).AGENCIASGLOBAL) || !si(r5(c).AGENCIASOPERACION));
      },
-     506, Titulo},
+     506, TituloSecciones},
     {37,
      [](const Cruce& c) {
          return es(a4(c).IVABIENES, u'O') && (!si(r5(c).BIENESMARGEN) || !no(r5(c).BIENESUSADOS));
      },
-     507, Titulo},
+     507, TituloSecciones},
     {38,
      [](const Cruce& c) {
          return es(a4(c).IVABIENES, u'R') && (!no(r5(c).BIENESMARGEN) || !si(r5(c).BIENESUSADOS));
      },
-     508, Titulo},
-    {39, [](const Cruce& c) { return es(a4(c).IVACAJA, u'O') && no(r5(c).IVACAJA); }, 873, Titulo},
+     508, TituloSecciones},
+    {39, [](const Cruce& c) { return es(a4(c).IVACAJA, u'O') && no(r5(c).IVACAJA); }, 873,
+     TituloSecciones},
     {40, [](const Cruce& c) { return exclusionORevocacion(a4(c).IVACAJA) && si(r5(c).IVACAJA); },
-     874, Titulo},
+     874, TituloSecciones},
 }};
 
 constexpr std::array<ReglaCruzada, 9> Finales = {{
@@ -178,7 +179,7 @@ constexpr std::array<ReglaCruzada, 9> Finales = {{
 
 }  // namespace
 
-std::span<const ReglaCruzada> ReglasSolicitudes() { return Solicitudes; }
+std::span<const ReglaCruzada> ReglasSolicitudes() { return CrucesSolicitudes; }
 std::span<const ReglaCruzada> ReglasFinales() { return Finales; }
 
 }  // namespace padral

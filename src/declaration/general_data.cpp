@@ -13,36 +13,36 @@ constexpr qsizetype PosicionBanderas = 12;
 constexpr qsizetype PosicionFechaModificacion = 13;
 constexpr qsizetype PosicionFirma = 16;
 
-using D = DatosGeneralesStore;
+using DG = DatosGeneralesStore;
 
 /// Positions that are a plain member; key, flags and date of change are handled by themselves.
 struct Posicion {
     qsizetype indice;
-    Columna<D> columna;
+    Columna<DG> columna;
 };
 constexpr std::array<Posicion, 15> Posiciones = {{
-    {1, columna<D, &D::DNI>(u"DNI")},
-    {2, columna<D, &D::NOMBRE>(u"NOMBRE")},
-    {3, columna<D, &D::NumeroArchivo>(u"NumeroArchivo")},
-    {4, columna<D, &D::FECHADECLARACION>(u"FECHADECLARACION")},
-    {5, columna<D, &D::FechaConstitucion>(u"FechaConstitucion")},
-    {6, columna<D, &D::FechaInscripcion>(u"FechaInscripcion")},
-    {7, columna<D, &D::Causa1>(u"Causa1")},
-    {8, columna<D, &D::Causa2>(u"Causa2")},
-    {9, columna<D, &D::DNIAnterior>(u"DNIAnterior")},
-    {10, columna<D, &D::NombreAnterior>(u"NombreAnterior")},
-    {11, columna<D, &D::MotivoCambio>(u"MotivoCambio")},
-    {14, columna<D, &D::DNIRepresentante>(u"DNIRepresentante")},
-    {15, columna<D, &D::NombreRepresentante>(u"NombreRepresentante")},
-    {16, columna<D, &D::FirmaEnCalidadDe>(u"FirmaEnCalidadDe")},
-    {17, columna<D, &D::ElMismo>(u"ElMismo")},
+    {1, columna<DG, &DG::DNI>(u"DNI")},
+    {2, columna<DG, &DG::NOMBRE>(u"NOMBRE")},
+    {3, columna<DG, &DG::NumeroArchivo>(u"NumeroArchivo")},
+    {4, columna<DG, &DG::FECHADECLARACION>(u"FECHADECLARACION")},
+    {5, columna<DG, &DG::FechaConstitucion>(u"FechaConstitucion")},
+    {6, columna<DG, &DG::FechaInscripcion>(u"FechaInscripcion")},
+    {7, columna<DG, &DG::Causa1>(u"Causa1")},
+    {8, columna<DG, &DG::Causa2>(u"Causa2")},
+    {9, columna<DG, &DG::DNIAnterior>(u"DNIAnterior")},
+    {10, columna<DG, &DG::NombreAnterior>(u"NombreAnterior")},
+    {11, columna<DG, &DG::MotivoCambio>(u"MotivoCambio")},
+    {14, columna<DG, &DG::DNIRepresentante>(u"DNIRepresentante")},
+    {15, columna<DG, &DG::NombreRepresentante>(u"NombreRepresentante")},
+    {16, columna<DG, &DG::FirmaEnCalidadDe>(u"FirmaEnCalidadDe")},
+    {17, columna<DG, &DG::ElMismo>(u"ElMismo")},
 }};
 constexpr qsizetype NumPosiciones = 18;
 
 /// The flags in the order of the eight characters of element 12.
-constexpr std::array<QString D::*, 8> Banderas = {&D::Apartado2, &D::Apartado3, &D::Apartado4,
-                                                  &D::Apartado5, &D::Apartado6, &D::Apartado7,
-                                                  &D::AnexoI,    &D::AnexoII};
+constexpr std::array<QString DG::*, 8> Banderas = {&DG::Apartado2, &DG::Apartado3, &DG::Apartado4,
+                                                   &DG::Apartado5, &DG::Apartado6, &DG::Apartado7,
+                                                   &DG::AnexoI,    &DG::AnexoII};
 
 }  // namespace
 

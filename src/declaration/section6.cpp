@@ -6,7 +6,7 @@ namespace {
 
 using D6 = DatosApartado6;
 
-constexpr Columna<D6> Columnas[] = {
+constexpr Columna<D6> ColumnasApartado6[] = {
     columna<D6, &D6::FECHACESE>(u"FECHACESE"),
     columna<D6, &D6::CAUSA>(u"CAUSA"),
     columna<D6, &D6::DESCRIPCIONCAUSA>(u"DESCRIPCIONCAUSA"),
@@ -15,7 +15,7 @@ constexpr Columna<D6> Columnas[] = {
 
 }  // namespace
 
-std::span<const Columna<DatosApartado6>> TablaApartado6() { return Columnas; }
+std::span<const Columna<DatosApartado6>> TablaApartado6() { return ColumnasApartado6; }
 
 void cApartado6::LIMPIARDATOS() {
     static_cast<DatosApartado6&>(*this) = {};

@@ -6,7 +6,7 @@ namespace padral {
 
 namespace {
 
-constexpr int TituloValidacion = 75;
+constexpr int TituloApartado6 = 75;
 constexpr int TituloFecha = 86;
 
 constexpr struct {
@@ -16,9 +16,9 @@ constexpr struct {
 
 constexpr AvisoRegla NoEsFecha{88, TituloFecha};
 constexpr AvisoRegla FueraDeIntervalo{0, TituloFecha};
-constexpr AvisoRegla SinCese{89, TituloValidacion, u"", u"txtFecha"};
-constexpr AvisoRegla SinDescripcion{90, TituloValidacion};
-constexpr AvisoRegla InscripcionFuera{0, TituloValidacion, u"", u"txtInscripcion"};
+constexpr AvisoRegla SinCese{89, TituloApartado6, u"", u"txtFecha"};
+constexpr AvisoRegla SinDescripcion{90, TituloApartado6};
+constexpr AvisoRegla InscripcionFuera{0, TituloApartado6, u"", u"txtInscripcion"};
 
 bool enIntervalo(qint32 fecha, const cMDIPadral& limites) {
     return fecha >= limites.FECMIN && fecha <= limites.FECMAX;

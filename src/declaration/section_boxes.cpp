@@ -7,7 +7,7 @@ namespace {
 using D = cDeclaraciones;
 using S = DatosGeneralesStore;
 
-const QString Marca = QStringLiteral("X");
+const QString MarcaDeSeccion = QStringLiteral("X");
 
 bool tipoNoEs(const QString& c, QStringView excluidos) {
     return !c.trimmed().isEmpty() && !excluidos.contains(c);
@@ -138,8 +138,8 @@ void MarcarTipo(cDeclaraciones& d, QChar letra) {
     for (const auto& efecto : Efectos) {
         if (efecto.letra != letra) continue;
         for (const auto bandera : efecto.marca)
-            if (bandera) d.general.*bandera = Marca;
-        if (efecto.anexoIDeE && d.general.DNI.startsWith(u'E')) d.general.AnexoI = Marca;
+            if (bandera) d.general.*bandera = MarcaDeSeccion;
+        if (efecto.anexoIDeE && d.general.DNI.startsWith(u'E')) d.general.AnexoI = MarcaDeSeccion;
     }
     d.general.Causa1 = letra;
 }

@@ -13,7 +13,7 @@ namespace padral {
 namespace {
 
 constexpr int TextoAcercaDe = 701;
-constexpr int LadoDibujo = 72;
+constexpr int LadoEmblema = 72;
 
 }  // namespace
 
@@ -24,7 +24,7 @@ frmAbout::frmAbout(const EstadoCompartido& estado, QWidget* padre) : QDialog(pad
         return estado.SegunIdioma(es, eu);
     };
     auto* dibujo = new QLabel(this);
-    dibujo->setPixmap(Dibujo(QStringLiteral("program")).pixmap(LadoDibujo, LadoDibujo));
+    dibujo->setPixmap(Dibujo(QStringLiteral("program")).pixmap(LadoEmblema, LadoEmblema));
     auto* titulo = Encabezado(QStringLiteral("lblTitle"), this);
     titulo->setText(
         texto(QStringLiteral("Declaración Padral."), QStringLiteral("Padral Aitorpena.")));

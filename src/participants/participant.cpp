@@ -10,7 +10,7 @@ namespace {
 
 using DP = DatosParticipe;
 
-constexpr Columna<DP> Columnas[] = {
+constexpr Columna<DP> ColumnasParticipe[] = {
     columna<DP, &DP::cspa>(u"cspa"),
     columna<DP, &DP::csde>(u"csde"),
     columna<DP, &DP::DNI>(u"DNI"),
@@ -47,7 +47,7 @@ Tabla unaFila(const Fila& fila) {
 
 }  // namespace
 
-std::span<const Columna<DatosParticipe>> TablaParticipe() { return Columnas; }
+std::span<const Columna<DatosParticipe>> TablaParticipe() { return ColumnasParticipe; }
 
 void cParticipes::CodigoProvincia(QStringView texto) {
     DatosParticipe::CodigoProvincia = static_cast<qint16>(ValorNumerico(texto));

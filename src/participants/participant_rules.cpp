@@ -14,7 +14,7 @@ using P = DatosParticipe;
 using S = ServidorNif;
 
 constexpr int Titulo = 125;
-constexpr int TituloNif = 389;
+constexpr int TituloNifParticipe = 389;
 constexpr int TituloPostal = 121;
 /// A postal code whose province has a single digit shows without its zero.
 constexpr qsizetype CifrasPostal = 4;
@@ -31,10 +31,10 @@ constexpr AvisoRegla aviso(int texto, const char16_t* foco, int titulo = Titulo)
     return {texto, titulo, u"", foco};
 }
 
-constexpr std::array<ReglaParticipe, 12> Reglas = {{
+constexpr std::array<ReglaParticipe, 12> ReglasDelParticipe = {{
     {1, [](const P& p, const S&) { return p.DNI.vacio(); }, aviso(360, u"txtDNI")},
     {2, [](const P& p, const S& valida) { return !valida(p.DNI.recortado()); },
-     aviso(388, u"txtDNI", TituloNif)},
+     aviso(388, u"txtDNI", TituloNifParticipe)},
     {3, [](const P& p, const S&) { return p.NOMBRE.vacio(); }, aviso(361, u"txtNombre")},
     {4, [](const P& p, const S&) { return p.DESCRIPCIONVIA.trimmed().isEmpty(); },
      aviso(362, u"txtSiglas")},
@@ -57,12 +57,13 @@ constexpr std::array<ReglaParticipe, 12> Reglas = {{
 
 }  // namespace
 
-std::span<const ReglaParticipe> ReglasParticipe() { return Reglas; }
+std::span<const ReglaParticipe> ReglasParticipe() { return ReglasDelParticipe; }
 
 Revision RevisarParticipe(const DatosParticipe& participe, const ServidorNif& valida) {
-    const auto rota = std::ranges::find_if(
-        Reglas, [&](const ReglaParticipe& regla) { return regla.rota(participe, valida); });
-    if (rota == Reglas.end()) return {};
+    const auto rota = std::ranges::find_if(ReglasDelParticipe, [&](const ReglaParticipe& regla) {
+        return regla.rota(participe, valida);
+    });
+    if (rota == ReglasDelParticipe.end()) return {};
     AvisoRegla hallado = rota->aviso;
     if (rota->focoPropia && propia(participe)) hallado.foco = rota->focoPropia;
     return {{hallado}};

@@ -37,7 +37,7 @@ constexpr std::array<Columna<Registro>, 8> Columnas = {{
     columna<Registro, &Registro::Sitio, &Parte::Numero>(u"Numero"),
 }};
 
-const std::span<const Columna<Registro>> Tabla{Columnas};
+const std::span<const Columna<Registro>> TablaPrueba{Columnas};
 
 Fila llena() {
     return {QStringLiteral(" a "),
@@ -52,7 +52,7 @@ Fila llena() {
 
 TEST(TablaDeRegistro, IdaYVuelta) {
     Registro r;
-    CargarDeFila(r, Tabla, llena());
+    CargarDeFila(r, TablaPrueba, llena());
     EXPECT_EQ(r.Texto, QStringLiteral(" a "));
     EXPECT_EQ(r.Fijo.texto(), QStringLiteral("XY "));
     EXPECT_EQ(r.Corto, 7);
@@ -61,7 +61,7 @@ TEST(TablaDeRegistro, IdaYVuelta) {
     EXPECT_TRUE(r.Logico);
     EXPECT_EQ(r.Sitio.Calle, QStringLiteral("MAYOR"));
     EXPECT_EQ(r.Sitio.Numero, 12);
-    EXPECT_EQ(FilaDe(r, Tabla), llena());
+    EXPECT_EQ(FilaDe(r, TablaPrueba), llena());
 }
 
 TEST(TablaDeRegistro, VacioYBlancoSonDistintos) {
@@ -69,9 +69,9 @@ TEST(TablaDeRegistro, VacioYBlancoSonDistintos) {
     for (const QString& texto : {QStringLiteral(""), QStringLiteral(" ")}) {
         Fila fila = llena();
         fila[0] = texto;
-        CargarDeFila(r, Tabla, fila);
+        CargarDeFila(r, TablaPrueba, fila);
         EXPECT_EQ(r.Texto, texto);
-        EXPECT_EQ(FilaDe(r, Tabla).at(0).toString(), texto);
+        EXPECT_EQ(FilaDe(r, TablaPrueba).at(0).toString(), texto);
     }
 }
 
@@ -89,11 +89,11 @@ void esperarVacio(const Registro& r) {
 
 TEST(TablaDeRegistro, LoQueFaltaSeLeeVacioSegunSuTipo) {
     Registro r;
-    CargarDeFila(r, Tabla, llena());
-    CargarDeFila(r, Tabla, Fila());
+    CargarDeFila(r, TablaPrueba, llena());
+    CargarDeFila(r, TablaPrueba, Fila());
     esperarVacio(r);
-    CargarDeFila(r, Tabla, llena());
-    CargarDeFila(r, Tabla, Fila(8));
+    CargarDeFila(r, TablaPrueba, llena());
+    CargarDeFila(r, TablaPrueba, Fila(8));
     esperarVacio(r);
 }
 

@@ -8,7 +8,7 @@ namespace padral {
 
 namespace {
 
-constexpr int TextoOtrasCausas = 66;
+constexpr int FilaLibre = 66;
 
 }  // namespace
 
@@ -18,7 +18,7 @@ void frmApartado6::CargarCombo() {
     cmbDescripcion_->clear();
     cmbDescripcion_->addItems(estado_.catalogo.CausasCese());
     filaLibre_ = cmbDescripcion_->itemText(cmbDescripcion_->count() - 1);
-    if (causaLibre()) nombrarFilaLibre(Texto(TextoOtrasCausas));
+    if (causaLibre()) nombrarFilaLibre(Texto(FilaLibre));
 }
 
 void frmApartado6::nombrarFilaLibre(const QString& texto) {

@@ -20,7 +20,7 @@ using B = BloqueDireccion;
         columna<D2, &D2::S, &B::NombreMunicipio>(u"NombreMunicipio" #S),                      \
         columna<D2, &D2::S, &B::Telefono>(u"Telefono" #S)
 
-constexpr Columna<D2> Columnas[] = {
+constexpr Columna<D2> ColumnasApartado2[] = {
     PADRAL_BLOQUE(Fis),
     PADRAL_BLOQUE(Act),
     columna<D2, &D2::ElMismoAct>(u"ElMismoAct"),
@@ -63,7 +63,7 @@ void vaciarBloques(D2& datos, QStringView sufijo, MarcaDeUno marcaDeUno) {
 
 }  // namespace
 
-std::span<const Columna<DatosApartado2>> TablaApartado2() { return Columnas; }
+std::span<const Columna<DatosApartado2>> TablaApartado2() { return ColumnasApartado2; }
 
 void cApartado2::InicializarApartado2(QStringView sufijo) {
     vaciarBloques(*this, sufijo,

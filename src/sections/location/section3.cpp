@@ -6,7 +6,7 @@ namespace {
 
 using D3 = DatosApartado3;
 
-constexpr Columna<D3> Columnas[] = {
+constexpr Columna<D3> ColumnasApartado3[] = {
     columna<D3, &D3::ResidenteKelmaria>(u"ResidenteKelmaria"),
     columna<D3, &D3::PorcenDeduccion>(u"PorcenDeduccion"),
     columna<D3, &D3::FechaInicio>(u"FechaInicio"),
@@ -34,7 +34,7 @@ constexpr Columna<D3> Columnas[] = {
 
 }  // namespace
 
-std::span<const Columna<DatosApartado3>> TablaApartado3() { return Columnas; }
+std::span<const Columna<DatosApartado3>> TablaApartado3() { return ColumnasApartado3; }
 
 void cApartado3::FechaInicio(qint32 valor) {
     DatosApartado3::FechaInicio = valor;

@@ -22,7 +22,7 @@ bool alfanumerico(QChar c) { return (c >= u'a' && c <= u'z') || (c >= u'0' && c 
 /// A missing mobile number shows the text of the address too.
 constexpr int DireccionNoValida = 868;
 
-constexpr std::array<ReglaApartado3, 7> Reglas = {{
+constexpr std::array<ReglaApartado3, 7> ReglasDelApartado3 = {{
     {1, [](const A& a) { return !a.epigrafeElegido; }, 699, u"txtDescripcionActividad"},
     {2,
      [](const A& a) {
@@ -69,12 +69,12 @@ bool Validar_Email(const QString& texto) {
     return arroba >= 0 && punto > arroba;
 }
 
-std::span<const ReglaApartado3> ReglasApartado3() { return Reglas; }
+std::span<const ReglaApartado3> ReglasApartado3() { return ReglasDelApartado3; }
 
 const ReglaApartado3* PrimeraReglaRota(const Apartado3Escrito& apartado) {
     const auto rota = std::ranges::find_if(
-        Reglas, [&](const ReglaApartado3& regla) { return regla.rota(apartado); });
-    return rota == Reglas.end() ? nullptr : &*rota;
+        ReglasDelApartado3, [&](const ReglaApartado3& regla) { return regla.rota(apartado); });
+    return rota == ReglasDelApartado3.end() ? nullptr : &*rota;
 }
 
 }  // namespace padral

@@ -4,33 +4,33 @@ namespace padral {
 
 namespace {
 
-using D = DatosAnexoII;
+using A2 = DatosAnexoII;
 
-constexpr Columna<D> Columnas[] = {
-    columna<D, &D::DireccionDom>(u"DireccionDom"),
-    columna<D, &D::PoblacionDom>(u"PoblacionDom"),
-    columna<D, &D::Nacionalidad>(u"Nacionalidad"),
-    columna<D, &D::FormaJuridica>(u"FormaJuridica"),
-    columna<D, &D::TerritorioHistorico>(u"TerritorioHistorico"),
-    columna<D, &D::ModalidadEstablecimiento>(u"ModalidadEstablecimiento"),
-    columna<D, &D::OtrosEstablecimientos>(u"OtrosEstablecimientos"),
-    columna<D, &D::NIFRepresentante>(u"NIFRepresentante"),
-    columna<D, &D::NombreRepresentante>(u"NombreRepresentante"),
-    columna<D, &D::NacionalidadRepresentante>(u"NacionalidadRepresentante"),
-    columna<D, &D::DomicilioRepresentante>(u"DomicilioRepresentante"),
-    columna<D, &D::CodigoMunicipio>(u"CodigoMunicipio"),
-    columna<D, &D::NombreMunicipio>(u"NombreMunicipio"),
-    columna<D, &D::CodigoProvincia>(u"CodigoProvincia"),
-    columna<D, &D::Obligado>(u"Obligado"),
-    columna<D, &D::Establecimientos>(u"Establecimientos"),
-    columna<D, &D::Aplicacion>(u"Aplicacion"),
-    columna<D, &D::OpcionApl>(u"OpcionApl"),
-    columna<D, &D::PORCENTAJE>(u"PORCENTAJE"),
+constexpr Columna<A2> ColumnasAnexoII[] = {
+    columna<A2, &A2::DireccionDom>(u"DireccionDom"),
+    columna<A2, &A2::PoblacionDom>(u"PoblacionDom"),
+    columna<A2, &A2::Nacionalidad>(u"Nacionalidad"),
+    columna<A2, &A2::FormaJuridica>(u"FormaJuridica"),
+    columna<A2, &A2::TerritorioHistorico>(u"TerritorioHistorico"),
+    columna<A2, &A2::ModalidadEstablecimiento>(u"ModalidadEstablecimiento"),
+    columna<A2, &A2::OtrosEstablecimientos>(u"OtrosEstablecimientos"),
+    columna<A2, &A2::NIFRepresentante>(u"NIFRepresentante"),
+    columna<A2, &A2::NombreRepresentante>(u"NombreRepresentante"),
+    columna<A2, &A2::NacionalidadRepresentante>(u"NacionalidadRepresentante"),
+    columna<A2, &A2::DomicilioRepresentante>(u"DomicilioRepresentante"),
+    columna<A2, &A2::CodigoMunicipio>(u"CodigoMunicipio"),
+    columna<A2, &A2::NombreMunicipio>(u"NombreMunicipio"),
+    columna<A2, &A2::CodigoProvincia>(u"CodigoProvincia"),
+    columna<A2, &A2::Obligado>(u"Obligado"),
+    columna<A2, &A2::Establecimientos>(u"Establecimientos"),
+    columna<A2, &A2::Aplicacion>(u"Aplicacion"),
+    columna<A2, &A2::OpcionApl>(u"OpcionApl"),
+    columna<A2, &A2::PORCENTAJE>(u"PORCENTAJE"),
 };
 
 }  // namespace
 
-std::span<const Columna<DatosAnexoII>> TablaAnexoII() { return Columnas; }
+std::span<const Columna<DatosAnexoII>> TablaAnexoII() { return ColumnasAnexoII; }
 
 void cAnexoII::InicializarAnexoII() {
     DatosAnexoII vacio;

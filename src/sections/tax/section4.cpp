@@ -6,7 +6,7 @@ namespace {
 
 using D4 = DatosApartado4;
 
-constexpr Columna<D4> Columnas[] = {
+constexpr Columna<D4> ColumnasApartado4[] = {
     columna<D4, &D4::IRPFOBJET>(u"IRPFOBJET"),
     columna<D4, &D4::IRPFDIRECT>(u"IRPFDIRECT"),
     columna<D4, &D4::IVAAGRIC>(u"IVAAGRIC"),
@@ -25,7 +25,7 @@ constexpr Columna<D4> Columnas[] = {
 
 }  // namespace
 
-std::span<const Columna<DatosApartado4>> TablaApartado4() { return Columnas; }
+std::span<const Columna<DatosApartado4>> TablaApartado4() { return ColumnasApartado4; }
 
 void cApartado4::LIMPIARDATOS() {
     static_cast<DatosApartado4&>(*this) = {};

@@ -11,7 +11,7 @@ namespace {
 using D4 = DatosApartado4;
 
 constexpr int TituloNif = 68;
-constexpr int TituloValidacion = 75;
+constexpr int TituloApartado4 = 75;
 constexpr qsizetype LargoNif = 9;
 
 bool claseDeEntidad(const QString& nif) {
@@ -44,9 +44,9 @@ constexpr struct {
     bool (*rota)(const D4&, qint32 fechaVigor);
     AvisoRegla aviso;
 } ReglasIntroduccion[] = {
-    {[](const D4& a, qint32) { return sinSolicitudes(a); }, {76, TituloValidacion}},
+    {[](const D4& a, qint32) { return sinSolicitudes(a); }, {76, TituloApartado4}},
     {[](const D4& a, qint32 f) { return !a.IVACAJA.vacio() && f < InicioCriterioCaja; },
-     {871, TituloValidacion, u"Ap4- "}},
+     {871, TituloApartado4, u"Ap4- "}},
 };
 
 }  // namespace
@@ -61,12 +61,12 @@ Revision Validaciones(const DatosApartado4& apartado, const ServidorNif& valida)
     if (!apartado.NIF.vacio()) {
         Revision nif = NIFValido(SinRelleno(apartado.NIF), valida);
         if (!nif.valida()) {
-            nif.avisos.push_back({78, TituloValidacion});
+            nif.avisos.push_back({78, TituloApartado4});
             return nif;
         }
     }
     if (apartado.IVASOCIO == QStringLiteral("S") && apartado.NOMBRE.vacio())
-        return {{{80, TituloValidacion, u"", u"txtNombre"}}};
+        return {{{80, TituloApartado4, u"", u"txtNombre"}}};
     return {};
 }
 

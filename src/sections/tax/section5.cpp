@@ -6,7 +6,7 @@ namespace {
 
 using R5 = RespuestasApartado5;
 
-constexpr Columna<R5> Columnas[] = {
+constexpr Columna<R5> ColumnasApartado5[] = {
     columna<R5, &R5::GRANEMPRESA>(u"GRANEMPRESA"),
     columna<R5, &R5::SOCIEDADES>(u"SOCIEDADES"),
     columna<R5, &R5::ADMINISTRACIONES>(u"ADMINISTRACIONES"),
@@ -39,7 +39,7 @@ constexpr Columna<R5> Columnas[] = {
 
 }  // namespace
 
-std::span<const Columna<RespuestasApartado5>> TablaApartado5() { return Columnas; }
+std::span<const Columna<RespuestasApartado5>> TablaApartado5() { return ColumnasApartado5; }
 
 void cApartado5::InicializarApartado5() {
     static_cast<RespuestasApartado5&>(*this) = {};

@@ -12,7 +12,7 @@ namespace {
 
 using D4 = DatosApartado4;
 using R5 = RespuestasApartado5;
-using E = Entrada5;
+using E5 = Entrada5;
 
 /// Requests that need section 5 to be answered. The customs quotas do not.
 constexpr Letra D4::*SolicitudesQueObligan[] = {
@@ -51,21 +51,23 @@ bool cajaSinRegimen(const R5& r, bool cuentaGlobal) {
 }
 
 constexpr std::array<PasoEntrada5, 6> Pasos = {{
-    {1, [](const E& e) { return soloSocio(e.apartado4); }, 0},
-    {2, [](const E& e) { return faltaAlguna(e.respuestas); }, 82},
-    {3, [](const E& e) { return todasNo(e.respuestas); }, 704},
+    {1, [](const E5& e) { return soloSocio(e.apartado4); }, 0},
+    {2, [](const E5& e) { return faltaAlguna(e.respuestas); }, 82},
+    {3, [](const E5& e) { return todasNo(e.respuestas); }, 704},
     {4,
-     [](const E& e) {
+     [](const E5& e) {
          return e.fechaVigor < InicioEdicion2015 && cajaSinRegimen(e.respuestas, true);
      },
      872},
     {5,
-     [](const E& e) {
+     [](const E5& e) {
          return e.fechaVigor >= InicioEdicion2015 && cajaSinRegimen(e.respuestas, false);
      },
      872},
     {6,
-     [](const E& e) { return es(e.respuestas.IVACAJA, u'S') && e.fechaVigor < InicioCriterioCaja; },
+     [](const E5& e) {
+         return es(e.respuestas.IVACAJA, u'S') && e.fechaVigor < InicioCriterioCaja;
+     },
      871, u"Ap5- "},
 }};
 

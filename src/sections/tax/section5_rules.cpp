@@ -58,7 +58,7 @@ bool metodoDeSociedad(const Letra& metodo, const R& r) {
 
 constexpr bool Exclamacion = true;
 
-constexpr std::array<ReglaApartado5, 25> Reglas = {{
+constexpr std::array<ReglaApartado5, 25> ReglasDelApartado5 = {{
     {1, [](const R& r, qint32 f) { return si(r.IVA) && faltaEnRamaSi(r, f); }, 82},
     {2,
      [](const R& r, qint32) {
@@ -134,10 +134,10 @@ constexpr std::array<ReglaApartado5, 25> Reglas = {{
 
 }  // namespace
 
-std::span<const ReglaApartado5> ReglasApartado5() { return Reglas; }
+std::span<const ReglaApartado5> ReglasApartado5() { return ReglasDelApartado5; }
 
 const ReglaApartado5* PrimeraReglaRota(const RespuestasApartado5& respuestas, qint32 fechaVigor) {
-    for (const ReglaApartado5& regla : Reglas)
+    for (const ReglaApartado5& regla : ReglasDelApartado5)
         if (regla.rota(respuestas, fechaVigor)) return &regla;
     return nullptr;
 }

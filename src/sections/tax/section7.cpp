@@ -56,11 +56,11 @@ constexpr std::array<Columna<D7>, NumColumnas> todasLasColumnas(std::index_seque
     return tabla;
 }
 
-constexpr auto Columnas = todasLasColumnas(std::make_index_sequence<NumEstadosMiembros>{});
+constexpr auto ColumnasApartado7 = todasLasColumnas(std::make_index_sequence<NumEstadosMiembros>{});
 
 }  // namespace
 
-std::span<const Columna<DatosApartado7>> TablaApartado7() { return Columnas; }
+std::span<const Columna<DatosApartado7>> TablaApartado7() { return ColumnasApartado7; }
 
 void cApartado7::InicializarApartado7() {
     const bool lleno = Lleno, modificaciones = Modificaciones;

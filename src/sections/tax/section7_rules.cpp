@@ -8,7 +8,7 @@ namespace {
 
 using D7 = DatosApartado7;
 
-constexpr int TituloValidacion = 75;
+constexpr int TituloApartado7 = 75;
 
 bool sinDatos(const D7& a) {
     return std::ranges::all_of(TablaApartado7(), [&a](const Columna<D7>& respuesta) {
@@ -24,16 +24,16 @@ bool revocaSobreElLimite(const D7& a) {
 constexpr struct {
     bool (*rota)(const D7&);
     AvisoRegla aviso;
-} Reglas[] = {
+} ReglasDelApartado7[] = {
     {sinDatos, AvisoSinDatos7},
-    {revocaSobreElLimite, {790, TituloValidacion}},
+    {revocaSobreElLimite, {790, TituloApartado7}},
 };
 
 }  // namespace
 
 Revision ValidarApartado7(const DatosApartado7& apartado) {
     Revision revision;
-    for (const auto& regla : Reglas)
+    for (const auto& regla : ReglasDelApartado7)
         if (regla.rota(apartado)) revision.avisos.push_back(regla.aviso);
     return revision;
 }

@@ -12,7 +12,7 @@ namespace padral {
 namespace {
 
 constexpr int EntreGrupos = 24;
-constexpr int EntreBotones = 6;
+constexpr int SeparacionBotones = 6;
 
 }  // namespace
 
@@ -23,7 +23,7 @@ BarraBotones::BarraBotones(QWidget* padre)
       segundo_(new QHBoxLayout) {
     todo_->setContentsMargins(0, 0, 0, 0);
     todo_->setSpacing(EntreGrupos);
-    for (auto* grupo : {primero_, segundo_}) grupo->setSpacing(EntreBotones);
+    for (auto* grupo : {primero_, segundo_}) grupo->setSpacing(SeparacionBotones);
     todo_->addLayout(primero_, 1);
     todo_->addLayout(segundo_);
 }
@@ -58,7 +58,7 @@ void BarraBotones::repartir() {
     const auto sentido = width() < linea ? QBoxLayout::TopToBottom : QBoxLayout::LeftToRight;
     if (todo_->direction() == sentido) return;
     todo_->setDirection(sentido);
-    todo_->setSpacing(sentido == QBoxLayout::LeftToRight ? EntreGrupos : EntreBotones);
+    todo_->setSpacing(sentido == QBoxLayout::LeftToRight ? EntreGrupos : SeparacionBotones);
     updateGeometry();
 }
 

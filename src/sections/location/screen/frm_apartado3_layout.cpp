@@ -16,7 +16,7 @@ namespace {
 
 constexpr int NumeroApartado = 3;
 
-constexpr int TituloPantalla = 136;
+constexpr int TituloApartado3 = 136;
 constexpr int AnchoCodigo = 7;
 constexpr int AnchoSinEpigrafe = 30;
 constexpr int AnchoForma = 20;
@@ -46,7 +46,7 @@ FrmApartado3::FrmApartado3(const Contexto& contexto, cDeclaraciones& declaracion
       grupoResidente_(new QButtonGroup(this)) {
     auto* todo = new QVBoxLayout(this);
     auto* titulo = Encabezado(QStringLiteral("lblTituloPantalla"), this);
-    etiquetas_.emplace_back(titulo, TituloPantalla);
+    etiquetas_.emplace_back(titulo, TituloApartado3);
     todo->addWidget(titulo);
     auto* columnas = new QHBoxLayout;
     auto* izquierda = new QVBoxLayout;

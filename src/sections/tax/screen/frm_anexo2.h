@@ -20,7 +20,6 @@ namespace padral {
 
 namespace anexo2 {
 struct Campo;
-struct Casilla;
 struct Marco;
 struct Pregunta;
 struct Rotulo;

@@ -15,7 +15,7 @@ using namespace anexo2;
 
 namespace {
 
-constexpr int TituloPantalla = 705, Propuesto = 810, TextoBoton = 97, Flecha = 213;
+constexpr int TituloAnexoII = 705, Propuesto = 810, TextoBoton = 97, Flecha = 213;
 
 /// Yes and no stand above their columns.
 bool bajoCabecera(const Casilla& respuesta) {
@@ -25,7 +25,7 @@ bool bajoCabecera(const Casilla& respuesta) {
 }  // namespace
 
 void frmAnexoII::Anadir_captions() {
-    setWindowTitle(Texto(TituloPantalla));
+    setWindowTitle(Texto(TituloAnexoII));
     for (const auto& [marco, id] : marcos_) marco->setTitle(Texto(id));
     for (const auto& [etiqueta, id] : etiquetas_) etiqueta->setText(Texto(id));
     lbl15_->setText(QStringLiteral("% ") + Texto(Propuesto));

@@ -16,7 +16,7 @@ namespace {
 
 constexpr Rotulo Cabeceras[] = {{u"lblSi", Si}, {u"lblNo", No}};
 constexpr Rotulo RotuloModificacion{u"lbl8", 711};
-constexpr int EntreFilas = 8, EntreColumnas = 12, Sangria = 22;
+constexpr int EntrePreguntas = 8, EntreRespuestas = 12, Sangria = 22;
 constexpr int CifrasPorcentaje = 3;
 
 }  // namespace
@@ -25,8 +25,8 @@ QWidget* frmAnexoII::crearPreguntas() {
     auto* marco = new QFrame(this);
     marco->setFrameShape(QFrame::StyledPanel);
     auto* rejilla = new QGridLayout(marco);
-    rejilla->setVerticalSpacing(EntreFilas);
-    rejilla->setHorizontalSpacing(EntreColumnas);
+    rejilla->setVerticalSpacing(EntrePreguntas);
+    rejilla->setHorizontalSpacing(EntreRespuestas);
     rejilla->setColumnStretch(0, 1);
     for (int i = 0; i < 2; ++i) {
         auto* cabecera = Encabezado(QString::fromUtf16(Cabeceras[i].nombre), marco);

@@ -10,7 +10,7 @@ using namespace apartado4;
 
 namespace {
 
-constexpr int TituloPantalla = 1, Flecha = 40, NifEntidad = 21, NombreEntidad = 20;
+constexpr int TituloApartado4 = 1, Flecha = 40, NifEntidad = 21, NombreEntidad = 20;
 /// The register of exporters became the one of monthly refunds.
 constexpr int RegistroExportadores = 25, DevolucionesMensuales = 836;
 constexpr qint32 InicioDevoluciones = 20090101;
@@ -37,7 +37,7 @@ QString frmApartado4::rotuloDe(const CasillaFila& respuesta) const {
 }
 
 void frmApartado4::Anadir_captions() {
-    setWindowTitle(Texto(TituloPantalla));
+    setWindowTitle(Texto(TituloApartado4));
     for (const auto& [etiqueta, id] : etiquetas_) etiqueta->setText(Texto(id));
     for (const auto& fila : filas_) rotularFila(fila);
     txtNIF_->setAccessibleName(Texto(NifEntidad));
