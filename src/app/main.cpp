@@ -1,7 +1,11 @@
 // The program itself: makes the real ports and starts.
 
+#include <cstdlib>
+
 #include "app/application.h"
 #include "app/program.h"
+#include "online/backup/screen_dialogs.h"
+#include "platform/net/http_download.h"
 #include "platform/program_folder.h"
 #include "printing/ui/printer_factory.h"
 #include "ui/message_box.h"
@@ -12,14 +16,21 @@ int main(int argc, char** argv) {
     AvisadorPantalla avisador;
     RelojSistema reloj;
     FabricaQt impresora(reloj);
+    DescargaHttp descarga;
+    NavegadorSistema navegador;
+    DialogosPantalla dialogosCopia;
+    const PuertosUtilidades utilidades{&descarga, &navegador, &dialogosCopia,
+                                       [] { std::_Exit(EXIT_SUCCESS); }};
     aplicacion.alFallar = [&avisador](const QString& castellano, const QString& euskera) {
         avisador.Mostrar({castellano + QStringLiteral("\n\n") + euskera,
                           QStringLiteral("Declaración Padral"), Icono::Error, Botones::Aceptar});
     };
     int estado = 0;
     aplicacion.Proteger([&] {
-        Programa programa({avisador, reloj, impresora}, CarpetaEjecutable(), CarpetaPrograma());
+        Programa programa({avisador, reloj, impresora, nullptr, utilidades}, CarpetaEjecutable(),
+                          CarpetaPrograma());
         avisador.finEspera = [&] { programa.ventana().CursorEspera(false); };
+        dialogosCopia.finEspera = avisador.finEspera;
         avisador.esEuskera = [&] { return programa.estado().DesplazamientoIdioma != 0; };
         aplicacion.alFallar = [&](const QString& castellano, const QString& euskera) {
             MostrarFallo(programa.estado(), programa.IdiomaConocido(), castellano, euskera);

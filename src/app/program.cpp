@@ -24,8 +24,7 @@ namespace padral {
 
 Programa::Programa(const Puertos& puertos, const QString& carpetaEjecutable,
                    const QString& carpetaPrograma)
-    : traspasar(TraspasarDatos),
-      puertos_(puertos),
+    : puertos_(puertos),
       carpetaEjecutable_(carpetaEjecutable),
       estado_(puertos.avisador, puertos.reloj),
       lista_(estado_),
@@ -41,6 +40,9 @@ Programa::Programa(const Puertos& puertos, const QString& carpetaEjecutable,
     ordenes.hayModificaciones = [this] { return declaracion_->HayModificaciones(); };
     ventana_ = std::make_unique<MDIPadral>(estado_, guardia_, std::move(ordenes));
     declaracion_ = std::make_unique<cDeclaraciones>(estado_, *ventana_, lista_);
+    utilidades_ = std::make_unique<ComandosUtilidades>(puertos_.utilidades,
+                                                       Contexto{estado_, *ventana_, guardia_},
+                                                       *ventana_, [this] { ponerIdioma(); });
     registrarPantallas();
 }
 
@@ -55,7 +57,7 @@ bool Programa::Iniciar() {
     ObtenerRutas(estado_);
     {
         const Espera espera(*ventana_);
-        if (traspasar(estado_)) return false;
+        if (utilidades_->traspasar(estado_)) return false;
     }
     InicializarSesion(estado_);
     idiomaConocido_ = true;
@@ -65,7 +67,7 @@ bool Programa::Iniciar() {
 
 void Programa::MostrarVentana() {
     {
-        frmInicio inicio(estado_);
+        frmInicio inicio(estado_, utilidades_->OrdenesDeVersion());
         inicio.Cargar();
     }
     ventana_->MostrarEnPantalla();
@@ -122,10 +124,12 @@ void Programa::registrarPantallas() {
     });
     ventana_->primerArranque = [this] {
         FrmIdioma idioma(
-            estado_, [this] { ponerIdioma(); }, ventana_.get());
+            estado_, [this] { ponerIdioma(); }, ventana_.get(), utilidades_->OrdenesDeVersion());
         idioma.exec();
     };
-    ventana_->mostrarAcercaDe = [this] { frmAbout(estado_, ventana_.get()).exec(); };
+    ventana_->PonerComando(QStringLiteral("mnuabout"),
+                           [this] { frmAbout(estado_, ventana_.get()).exec(); });
+    utilidades_->Conectar();
     ventana_->mostrarAyuda = [this](const QString& tema) {
         VisorAyuda* visor = puertos_.visorAyuda ? puertos_.visorAyuda : &visorPropio_;
         MostrarAyuda(estado_, *visor, tema, ventana_.get());

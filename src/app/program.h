@@ -4,6 +4,7 @@
 #include <functional>
 #include <memory>
 
+#include "app/utility_commands.h"
 #include "core/help/help_key.h"
 #include "core/help/window_viewer.h"
 #include "core/shared_state.h"
@@ -23,6 +24,7 @@ struct Puertos {
     DestinoImpresion& impresora;
     /// Shows help files; none: the program's own window.
     VisorAyuda* visorAyuda = nullptr;
+    PuertosUtilidades utilidades = {};
 };
 
 class Programa {
@@ -43,8 +45,7 @@ public:
     GuardiaCampos& guardia() { return guardia_; }
     /// A new list screen, not loaded yet.
     QWidget* CrearLista();
-    /// The migration of an older store; true ends the process with no message.
-    std::function<bool(EstadoCompartido&)> traspasar;
+    ComandosUtilidades& utilidades() { return *utilidades_; }
     /// Whether the language of the run has been read from the store.
     bool IdiomaConocido() const { return idiomaConocido_; }
 
@@ -66,6 +67,7 @@ private:
     VisorVentana visorPropio_;
     std::unique_ptr<MDIPadral> ventana_;
     std::unique_ptr<cDeclaraciones> declaracion_;
+    std::unique_ptr<ComandosUtilidades> utilidades_;
     TeclaAyuda teclaAyuda_;
     bool idiomaConocido_ = false;
 };

@@ -81,8 +81,9 @@ bool EstadoCompartido::Preguntar(const QString& texto, const QString& titulo) co
 void EstadoCompartido::AvisarNifNoValido() const { Avisar(545, 158); }
 
 bool EstadoCompartido::ValidaNifCif(const QString& nif) {
-    ObjComun = std::make_unique<SvrBaseComunLib::cMiscelaneos>();
-    const bool valido = ObjComun->ValidaNifCif(nif);
+    const auto comun = std::make_shared<SvrBaseComunLib::cMiscelaneos>();
+    ObjComun = comun;
+    const bool valido = comun->ValidaNifCif(nif);
     ObjComun.reset();
     return valido;
 }

@@ -45,6 +45,12 @@ private:
 
 /// State of the version check.
 struct cActOnline {
+    qint16 ComVer = 0;  ///< 1: the versions differ; never goes back to 0 in a run
+    /// Outcome: 0 not finished, 1 no connection, 3 read and compared, 4 bad data.
+    qint16 SitAct = 0;
+    QString ActDescripcion;             ///< what the version file says of the current version
+    QString ActVer1, ActVer2, ActVer3;  ///< the current version
+    QString ActDownloadURL;
     QString ProgVer1, ProgVer2, ProgVer3;  ///< the running version
     QString ActFile;                       ///< full path of the program file
     qint16 ActOnline = 0;                  ///< 1 check at start, 0 don't, negative never decided
@@ -67,7 +73,8 @@ struct EstadoCompartido {
 
     QString VersionPrograma;  ///< three parts, e.g. "1.30.1"
     QString VersionProducto;  ///< four parts; kept, read by nobody
-    std::unique_ptr<SvrBaseComunLib::cMiscelaneos> ObjComun;
+    /// The object of the common server in use, whichever it is; released after use.
+    std::shared_ptr<void> ObjComun;
     QString CarpetaPrograma;     ///< without a separator at its end
     QString RutaTablas;          ///< data folder, with a separator at its end
     QString RutaBDLectura;       ///< path of DPadralLec.mdb

@@ -1,10 +1,10 @@
 #include "online/about_texts.h"
 
+#include "store/authority.h"
+
 namespace padral {
 
-QString LineaCopyright() {
-    return QStringLiteral("© 2026 Kelmariako Foru Aldundia / Diputación Foral de Kelmaria");
-}
+QString LineaCopyright() { return store::authority::CopyrightLine.toString(); }
 
 QString DescripcionCastellano() {
     return QStringLiteral(

@@ -1,11 +1,11 @@
 #include "online/frm_about.h"
 
-#include <QHBoxLayout>
+#include <QBoxLayout>
 #include <QLabel>
 #include <QPushButton>
 
 #include "online/about_texts.h"
-#include "ui/art.h"
+#include "online/dialog_parts.h"
 #include "ui/fields.h"
 
 namespace padral {
@@ -13,7 +13,10 @@ namespace padral {
 namespace {
 
 constexpr int TextoAcercaDe = 701;
-constexpr int LadoEmblema = 72;
+constexpr int AnchoAcercaDe = 96;  // letters
+constexpr int MargenAcercaDe = 18;
+constexpr int LineasEmblema = 5;
+constexpr double LetraTitulo = 1.3;
 
 }  // namespace
 
@@ -23,34 +26,33 @@ frmAbout::frmAbout(const EstadoCompartido& estado, QWidget* padre) : QDialog(pad
     const auto texto = [&](const QString& es, const QString& eu) {
         return estado.SegunIdioma(es, eu);
     };
-    auto* dibujo = new QLabel(this);
-    dibujo->setPixmap(Dibujo(QStringLiteral("program")).pixmap(LadoEmblema, LadoEmblema));
     auto* titulo = Encabezado(QStringLiteral("lblTitle"), this);
+    Agrandar(titulo, LetraTitulo);
     titulo->setText(
         texto(QStringLiteral("Declaración Padral."), QStringLiteral("Padral Aitorpena.")));
-    auto* version = Etiqueta(QStringLiteral("lblVersion"), this);
-    version->setText(texto(QStringLiteral("Versión ") + estado.VersionPrograma,
-                           estado.VersionPrograma + QStringLiteral(" bertsioa")));
-    auto* descripcion = Etiqueta(QStringLiteral("lblDescription"), this);
-    descripcion->setText(texto(DescripcionCastellano(), DescripcionEuskera()));
-    descripcion->setWordWrap(true);
-    descripcion->setMinimumWidth(420);
-    auto* copy = Etiqueta(QStringLiteral("lblcopy"), this);
-    copy->setText(LineaCopyright());
-    auto* cmdOK = new QPushButton(texto(QStringLiteral("&Aceptar"), QStringLiteral("&Ados")), this);
-    cmdOK->setObjectName(QStringLiteral("cmdOK"));
+    const QString version = texto(QStringLiteral("Versión ") + estado.VersionPrograma,
+                                  estado.VersionPrograma + QStringLiteral(" bertsioa"));
+    auto* cmdOK = BotonRotulado(QStringLiteral("cmdOK"),
+                                texto(QStringLiteral("&Aceptar"), QStringLiteral("&Ados")), this);
     cmdOK->setDefault(true);
     connect(cmdOK, &QPushButton::clicked, this, &QDialog::accept);
     auto* columna = new QVBoxLayout;
-    for (QWidget* w : {titulo, version, descripcion, copy}) columna->addWidget(w);
+    columna->addWidget(titulo);
+    columna->addWidget(EtiquetaLarga(QStringLiteral("lblVersion"), version, this));
+    columna->addSpacing(MargenAcercaDe / 2);
+    columna->addWidget(EtiquetaLarga(QStringLiteral("lblDescription"),
+                                     texto(DescripcionCastellano(), DescripcionEuskera()), this));
+    columna->addSpacing(MargenAcercaDe / 2);
+    columna->addWidget(EtiquetaLarga(QStringLiteral("lblcopy"), LineaCopyright(), this));
     columna->addStretch(1);
-    columna->addSpacing(8);
+    columna->addSpacing(MargenAcercaDe / 2);
     columna->addWidget(cmdOK, 0, Qt::AlignRight);
     auto* fila = new QHBoxLayout(this);
-    fila->setContentsMargins(18, 18, 18, 18);
-    fila->setSpacing(18);
-    fila->addWidget(dibujo, 0, Qt::AlignTop);
-    fila->addLayout(columna);
+    fila->setContentsMargins(MargenAcercaDe, MargenAcercaDe, MargenAcercaDe, MargenAcercaDe);
+    fila->setSpacing(MargenAcercaDe);
+    fila->addWidget(DibujoPrograma(LineasEmblema, this), 0, Qt::AlignTop);
+    fila->addLayout(columna, 1);
+    FijarTamano(this, AnchoAcercaDe);
 }
 
 }  // namespace padral

@@ -1,55 +1,93 @@
 #include "online/frm_idioma.h"
 
+#include <QBoxLayout>
+#include <QCheckBox>
+#include <QGridLayout>
 #include <QGroupBox>
-#include <QHBoxLayout>
 #include <QKeyEvent>
 #include <QLabel>
+#include <QPushButton>
+#include <QScopedValueRollback>
 
+#include "online/dialog_parts.h"
 #include "ui/fields.h"
 
 namespace padral {
 
-FrmIdioma::FrmIdioma(EstadoCompartido& estado, std::function<void()> alElegir, QWidget* padre)
-    : QDialog(padre), estado_(estado), alElegir_(std::move(alElegir)) {
+namespace {
+
+constexpr int AnchoIdioma = 72;     // letters
+constexpr int PausaResultado = 50;  // milliseconds
+constexpr int MargenIdioma = 18, SeparacionIdioma = 14, AltoBotonIdioma = 40;
+
+}  // namespace
+
+FrmIdioma::FrmIdioma(EstadoCompartido& estado, std::function<void()> alCambiarIdioma,
+                     QWidget* padre, OrdenesVersion ordenes)
+    : QDialog(padre),
+      estado_(estado),
+      alCambiarIdioma_(std::move(alCambiarIdioma)),
+      ordenes_(std::move(ordenes)) {
     setObjectName(QStringLiteral("FrmIdioma"));
     setWindowTitle(QStringLiteral("Hautatu Hizkuntza/Selección de idioma"));
-    auto* marco = new QGroupBox(QStringLiteral("Hizkuntza/Idioma"), this);
-    marco->setObjectName(QStringLiteral("frame1"));
-    cmdcastellano_ = new QPushButton(QStringLiteral("Castellano"), marco);
-    cmdcastellano_->setObjectName(QStringLiteral("cmdcastellano"));
-    cmdeuskera_ = new QPushButton(QStringLiteral("Euskera"), marco);
-    cmdeuskera_->setObjectName(QStringLiteral("cmdeuskera"));
-    auto* botones = new QHBoxLayout(marco);
-    botones->setContentsMargins(18, 14, 18, 14);
-    for (auto* boton : {cmdeuskera_, cmdcastellano_}) {
-        boton->setMinimumSize(150, 40);
-        boton->setAutoDefault(false);
-        botones->addWidget(boton);
-    }
-    chkActOnline_ = new QCheckBox(this);
-    chkActOnline_->setObjectName(QStringLiteral("chkActOnline"));
-    auto* pregunta = new EtiquetaCasilla(QStringLiteral("lblActOnline"), chkActOnline_, this);
-    pregunta->setText(QStringLiteral(
-        "programa abiatzen den bakoitzean eguneratzerik dagoen jakinaraztea nahi duzu?\n"
-        "¿desea que se le informe sobre la existencia de actualizaciones cada vez que se inicie el "
-        "programa?"));
-    pregunta->setWordWrap(true);
-    auto* fila = new QHBoxLayout;
-    fila->addWidget(chkActOnline_, 0, Qt::AlignTop);
-    fila->addWidget(pregunta, 1);
+    crearMarco();
     auto* todo = new QVBoxLayout(this);
-    todo->setContentsMargins(18, 18, 18, 18);
-    todo->setSpacing(14);
-    todo->addWidget(marco);
-    todo->addLayout(fila);
+    todo->setContentsMargins(MargenIdioma, MargenIdioma, MargenIdioma, MargenIdioma);
+    todo->setSpacing(SeparacionIdioma);
+    todo->addWidget(frame1_);
+    todo->addWidget(crearPregunta());
     for (QWidget* control :
          std::initializer_list<QWidget*>{cmdcastellano_, cmdeuskera_, chkActOnline_})
         control->installEventFilter(this);
-    connect(cmdcastellano_, &QPushButton::clicked, this, [this] { elegir(QStringLiteral("C")); });
-    connect(cmdeuskera_, &QPushButton::clicked, this, [this] { elegir(QStringLiteral("E")); });
+    connect(cmdcastellano_, &QPushButton::clicked, this,
+            [this] { elegir(QStringLiteral("C"), true); });
+    connect(cmdeuskera_, &QPushButton::clicked, this,
+            [this] { elegir(QStringLiteral("E"), false); });
     // Ticking the box in code counts as its click: a fresh store goes from -1 to 1 here.
     connect(chkActOnline_, &QCheckBox::toggled, this, &FrmIdioma::guardarAviso);
     chkActOnline_->setChecked(estado_.act.ActOnline > 0 || estado_.act.ActOnline == -1);
+    FijarTamano(this, AnchoIdioma);
+}
+
+void FrmIdioma::crearMarco() {
+    frame1_ = new QGroupBox(QStringLiteral("Hizkuntza/Idioma"), this);
+    frame1_->setObjectName(QStringLiteral("frame1"));
+    cmdeuskera_ = BotonRotulado(QStringLiteral("cmdeuskera"), QStringLiteral("Euskera"), frame1_);
+    cmdcastellano_ =
+        BotonRotulado(QStringLiteral("cmdcastellano"), QStringLiteral("Castellano"), frame1_);
+    auto* botones = new QHBoxLayout(frame1_);
+    botones->setContentsMargins(MargenIdioma, SeparacionIdioma, MargenIdioma, SeparacionIdioma);
+    botones->setSpacing(SeparacionIdioma);
+    for (auto* boton : {cmdeuskera_, cmdcastellano_}) {
+        boton->setMinimumHeight(AltoBotonIdioma);
+        boton->setAutoDefault(false);
+        botones->addWidget(boton);
+    }
+}
+
+QWidget* FrmIdioma::crearPregunta() {
+    auto* bloque = new QWidget(this);
+    chkActOnline_ = new QCheckBox(bloque);
+    chkActOnline_->setObjectName(QStringLiteral("chkActOnline"));
+    // A check box wraps no words: its caption stands beside it.
+    lblActOnline_ = new EtiquetaCasilla(QStringLiteral("lblActOnline"), chkActOnline_, bloque);
+    lblActOnline_->setText(QStringLiteral(
+        "programa abiatzen den bakoitzean eguneratzerik dagoen jakinaraztea nahi duzu?\n"
+        "¿desea que se le informe sobre la existencia de actualizaciones cada vez que se inicie el "
+        "programa?"));
+    lblActOnline_->setWordWrap(true);
+    // It takes the place of the question.
+    lblAct_ = Etiqueta(QStringLiteral("lblAct"), bloque);
+    lblAct_->setText(QStringLiteral("Buscando actualización ..."));
+    lblAct_->setVisible(false);
+    auto* fila = new QHBoxLayout;
+    fila->addWidget(chkActOnline_, 0, Qt::AlignTop);
+    fila->addWidget(lblActOnline_, 1);
+    auto* rejilla = new QGridLayout(bloque);
+    rejilla->setContentsMargins(0, 0, 0, 0);
+    rejilla->addLayout(fila, 0, 0);
+    rejilla->addWidget(lblAct_, 0, 0, Qt::AlignTop);
+    return bloque;
 }
 
 void FrmIdioma::guardarAviso(bool marcado) {
@@ -57,10 +95,24 @@ void FrmIdioma::guardarAviso(bool marcado) {
     estado_.act.GuardarActOnline(estado_.RutaBDModificacion);
 }
 
-void FrmIdioma::elegir(const QString& letra) {
+void FrmIdioma::elegir(const QString& letra, bool esperarResultado) {
     estado_.mdi.IDI(letra);
-    alElegir_();
+    alCambiarIdioma_();
+    // The load has decided already, so that the first check comes with the next start.
+    if (estado_.act.ActOnline == -1) comprobar(esperarResultado);
     accept();
+}
+
+void FrmIdioma::comprobar(bool esperarResultado) {
+    const QScopedValueRollback<bool> ocupado(comprobando_, true);
+    for (QWidget* w : std::initializer_list<QWidget*>{chkActOnline_, lblActOnline_})
+        w->setVisible(false);
+    lblAct_->setVisible(true);
+    // One choice at a time: the check yields.
+    frame1_->setEnabled(false);
+    ordenes_.comprobarVersion();
+    // A check that failed before it began leaves 0, and then this never ends.
+    while (esperarResultado && estado_.act.SitAct == 0) estado_.reloj.Esperar(PausaResultado);
 }
 
 void FrmIdioma::showEvent(QShowEvent* evento) {
@@ -81,6 +133,11 @@ bool FrmIdioma::eventFilter(QObject*, QEvent* evento) {
 void FrmIdioma::keyPressEvent(QKeyEvent* evento) {
     // There is nothing to cancel here: a language has to be chosen.
     if (evento->key() != Qt::Key_Escape) QDialog::keyPressEvent(evento);
+}
+
+void FrmIdioma::reject() {
+    // The check comes back to this window.
+    if (!comprobando_) QDialog::reject();
 }
 
 }  // namespace padral

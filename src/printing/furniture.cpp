@@ -60,9 +60,10 @@ constexpr int IdiomaEuskera = 1000;
 constexpr int IdiomaCastellano = 0;
 
 QString NombreDepartamento(EstadoCompartido& estado, int idioma) {
-    estado.ObjComun = std::make_unique<SvrBaseComunLib::cMiscelaneos>();
-    estado.ObjComun->Idioma = idioma;
-    const QString nombre = estado.ObjComun->HaciendaFiscalidad();
+    const auto comun = std::make_shared<SvrBaseComunLib::cMiscelaneos>();
+    estado.ObjComun = comun;
+    comun->Idioma = idioma;
+    const QString nombre = comun->HaciendaFiscalidad();
     estado.ObjComun.reset();
     return nombre;
 }

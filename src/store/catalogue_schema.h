@@ -10,6 +10,9 @@ class Database;
 
 namespace padral::store {
 
+/// Version of the layout. A file of another one is not carried over: the build makes a new one.
+inline constexpr int CatalogueVersion = 1;
+
 /// What a column of a catalogue table holds.
 enum class CatalogueColumn {
     NumberKey,

@@ -69,6 +69,19 @@ QString cMiscelaneos::HaciendaFiscalidad() const {
         .toString();
 }
 
+void cMiscelaneos::AccesoAyuOnline() const {
+    servicio_.abrir(
+        (Idioma == 0 ? store::authority::HelpAddressSpanish : store::authority::HelpAddressBasque)
+            .toString());
+}
+
+void cMiscelaneos::MostrarOnlineInfo() const {
+    servicio_.describir(
+        (Idioma == 0 ? store::authority::HelpServiceSpanish : store::authority::HelpServiceBasque)
+            .toString(),
+        Parent);
+}
+
 QString DireccionWebAutoridad() { return store::authority::WebAddress.toString(); }
 
 }  // namespace padral::SvrBaseComunLib

@@ -5,9 +5,9 @@
 #include <QFile>
 #include <QFileInfo>
 #include <QUrl>
-#include <optional>
 #include <string>
 
+#include "store/catalogue_schema.h"
 #include "store/collation.h"
 #include "store/schema.h"
 
@@ -15,21 +15,15 @@ namespace padral::store {
 
 namespace {
 
-struct Identity {
-    int applicationId;
-    int schemaVersion;
-};
-
 Identity readIdentity(SQLite::Database& db) {
     return {db.execAndGet("PRAGMA application_id").getInt(),
             db.execAndGet("PRAGMA user_version").getInt()};
 }
 
 void checkIdentity(const Identity& identity, const Opening& opening) {
-    if (identity.applicationId != ApplicationId(opening.kind))
-        throw FileFailure(FileFault::Foreign, opening.path);
-    if (identity.schemaVersion > SchemaVersion) throw FileFailure(FileFault::Newer, opening.path);
-    if (identity.schemaVersion < SchemaVersion) throw FileFailure(FileFault::Damaged, opening.path);
+    const auto fault = IdentityFault(opening.kind, identity);
+    if (!fault || (fault == FileFault::Older && opening.layouts == Layouts::OlderToo)) return;
+    throw FileFailure(*fault, opening.path);
 }
 
 // Every file of the engine begins with these bytes; a file cut off within them is one of its own.
@@ -95,6 +89,20 @@ void configure(SQLite::Database& db, const Opening& opening) {
 
 int ApplicationId(FileKind kind) {
     return kind == FileKind::Declarations ? 0x5044524D : 0x5044524C;
+}
+
+int LayoutVersion(FileKind kind) {
+    return kind == FileKind::Declarations ? SchemaVersion : CatalogueVersion;
+}
+
+std::optional<FileFault> IdentityFault(FileKind kind, const Identity& identity) {
+    const int present = LayoutVersion(kind);
+    if (identity.applicationId != ApplicationId(kind)) return FileFault::Foreign;
+    if (identity.layoutVersion == present) return std::nullopt;
+    if (identity.layoutVersion > present) return FileFault::Newer;
+    const bool carried =
+        kind == FileKind::Declarations && identity.layoutVersion >= OldestSchemaVersion;
+    return carried ? FileFault::Older : FileFault::Damaged;
 }
 
 SQLite::Database Open(const Opening& opening) {

@@ -7,6 +7,7 @@
 #include <SQLiteCpp/Transaction.h>
 
 #include <QString>
+#include <optional>
 #include <utility>
 
 #include "store/busy_timeout.h"
@@ -17,8 +18,25 @@ namespace padral::store {
 enum class FileKind { Declarations, Catalogue };
 enum class Access { Read, Write };
 
+/// Layouts that an opening takes: every operation works on the present one; the migration also
+/// opens the older ones that it can carry to it.
+enum class Layouts { Present, OlderToo };
+
 /// The number by which a file says what it is.
 int ApplicationId(FileKind kind);
+/// The layout of a fresh file.
+int LayoutVersion(FileKind kind);
+
+/// What a file says of itself: the engine's `application_id` and `user_version`.
+struct Identity {
+    int applicationId;
+    int layoutVersion;
+};
+
+/// Why a file that says so cannot be worked on: `Foreign`, `Newer`, `Older` or, where no such
+/// layout has been, `Damaged`; nothing when it is of the present layout. Who only asks whether a
+/// file is one of ours and can be carried over takes `Older` for a yes.
+std::optional<FileFault> IdentityFault(FileKind kind, const Identity& identity);
 
 struct Opening {
     QString path;
@@ -26,10 +44,12 @@ struct Opening {
     Access access;
     /// Milliseconds.
     int busyTimeout = BusyTimeoutMs;
+    Layouts layouts = Layouts::Present;
 };
 
 /// Opens an existing file. Throws Fallo when it is missing, damaged, of another program or kind,
-/// of a newer layout, or locked for longer than the wait; it is left as it is then.
+/// of a newer layout or of an older one that was not asked for, or locked for longer than the
+/// wait; it is left as it is then.
 SQLite::Database Open(const Opening& opening);
 
 /// A transaction that takes the right to write at its start and is rolled back unless committed.

@@ -39,11 +39,14 @@ void createParticipantTables(SQLite::Database& db) {
             columnsSql(table.columns) + ", PRIMARY KEY (declaracion, posicion)) STRICT");
 }
 
+// One row, and never a second one.
 void createSettings(SQLite::Database& db) {
     db.exec(
-        "CREATE TABLE TGENERAL (IDI TEXT NOT NULL, ActOnline INTEGER NOT NULL,"
-        " VersionOrden TEXT NOT NULL) STRICT");
-    SQLite::Statement row(db, "INSERT INTO TGENERAL VALUES ('C', -1, ?)");
+        "CREATE TABLE TGENERAL (Fila INTEGER PRIMARY KEY CHECK (Fila = 1), IDI TEXT NOT NULL,"
+        " ActOnline INTEGER NOT NULL, VersionOrden TEXT NOT NULL,"
+        " BACKUP_TVC TEXT NOT NULL DEFAULT '') STRICT");
+    SQLite::Statement row(
+        db, "INSERT INTO TGENERAL (IDI, ActOnline, VersionOrden) VALUES ('C', -1, ?)");
     row.bind(1, CollationVersion().toStdString());
     row.exec();
 }

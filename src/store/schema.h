@@ -12,8 +12,9 @@ class Database;
 
 namespace padral::store {
 
-/// Version of the layout of both files.
-inline constexpr int SchemaVersion = 1;
+/// Version of the layout that follows, and the oldest one that the migration still carries to it.
+inline constexpr int SchemaVersion = 2;
+inline constexpr int OldestSchemaVersion = 1;
 
 /// 18 columns; the first one is the key `csde`.
 const RecordTable& GeneralData();

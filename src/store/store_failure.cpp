@@ -16,13 +16,16 @@ struct FaultText {
     QStringView basque;
 };
 
-constexpr std::array<FaultText, 9> FaultTexts{{
+constexpr std::array<FaultText, 10> FaultTexts{{
     {FileFault::Missing, u"No se encuentra el archivo «%1».", u"Ez da «%1» fitxategia aurkitzen."},
     {FileFault::Unopened, u"No se puede abrir el archivo «%1».", u"Ezin da «%1» fitxategia ireki."},
     {FileFault::Foreign, u"El archivo «%1» no es un archivo de datos de este programa.",
      u"«%1» fitxategia ez da programa honen datu-fitxategi bat."},
     {FileFault::Newer, u"El archivo «%1» es de una versión más nueva del programa.",
      u"«%1» fitxategia programaren bertsio berriago batekoa da."},
+    {FileFault::Older,
+     u"El archivo «%1» es de una versión anterior del programa. Se adaptará al iniciarlo de nuevo.",
+     u"«%1» fitxategia programaren aurreko bertsio batekoa da. Berriro abiaraztean egokituko da."},
     {FileFault::Damaged, u"El archivo «%1» está dañado.", u"«%1» fitxategia hondatuta dago."},
     {FileFault::Locked, u"El archivo «%1» está bloqueado por otro programa.",
      u"Beste programa batek blokeatuta dauka «%1» fitxategia."},

@@ -16,6 +16,7 @@ enum class FileFault {
     Unopened,  ///< it is there and cannot be opened
     Foreign,   ///< of another program, a database or not, or the other one of the two files
     Newer,     ///< written by a newer version of this program
+    Older,     ///< of an older layout, which the migration carries to the present one
     Damaged,
     Locked,  ///< another program held it for longer than the wait
     ReadOnly,

@@ -6,6 +6,7 @@
 #include "store/collation.h"
 #include "store/database.h"
 #include "store/list_query.h"
+#include "store/migration.h"
 
 namespace padral::SvrDPadral {
 
@@ -50,6 +51,7 @@ bool cTraspaso::Traspaso() const {
     const QString lectura = QDir(mdbPath).filePath(QStringLiteral("DPadralLec.mdb"));
     if (QFileInfo::exists(lectura)) Open({lectura, FileKind::Catalogue, Access::Read, busyTimeout});
     if (!QFileInfo::exists(mdbmod)) return false;
+    Migrate(mdbmod, busyTimeout);
     const bool alDia = WithDatabase({mdbmod, FileKind::Declarations, Access::Read, busyTimeout},
                                     [](SQLite::Database& db) { return clavesAlDia(db); });
     if (!alDia) WithWriting(mdbmod, busyTimeout, rehacerClaves);

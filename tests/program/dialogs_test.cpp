@@ -54,6 +54,7 @@ TEST_F(Dialogos, SplashShowsBothLanguagesWhateverTheRun) {
 }
 
 TEST_F(Dialogos, SplashHoldsTheStartForThreeSeconds) {
+    estado().act.ActOnline = 0;
     frmInicio inicio(estado());
     const auto antes = reloj_.Ahora();
     inicio.Cargar();

@@ -75,7 +75,7 @@ int probar(Aplicacion& aplicacion, const QStringList& argumentos) {
         MostrarFallo(programa.estado(), programa.IdiomaConocido(), castellano, euskera);
     };
     if (argumentos.value(3) == QStringLiteral("stop"))
-        programa.traspasar = [](EstadoCompartido&) { return true; };
+        programa.utilidades().traspasar = [](EstadoCompartido&) { return true; };
     bool seguir = false;
     aplicacion.Proteger([&] { seguir = programa.Iniciar(); });
     if (!seguir) return 0;

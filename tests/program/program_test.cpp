@@ -224,7 +224,7 @@ TEST_F(Programa, TourLeavesPicturesAndPrintedPages) {
         EXPECT_EQ(salida.entryList({QStringLiteral("417-%1-*.pdf").arg(QLatin1String(nif))}).size(),
                   4)
             << nif;
-    EXPECT_EQ(salida.entryList({QStringLiteral("*.png")}).size(), 58);
+    EXPECT_EQ(salida.entryList({QStringLiteral("*.png")}).size(), 74);
 }
 
 }  // namespace

@@ -43,8 +43,8 @@ protected:
         guia_.reset();
         programa_.reset();
         const QString binarios = QStringLiteral(PADRAL_BINARY_DIR "/bin");
-        programa_ = std::make_unique<Programa>(Puertos{avisos, reloj_, impresora_, visor_},
-                                               binarios, carpeta_.path());
+        programa_ = std::make_unique<Programa>(
+            Puertos{avisos, reloj_, impresora_, visor_, utilidades_}, binarios, carpeta_.path());
         ASSERT_TRUE(programa_->Iniciar());
         estado().mdi.IDI(idioma);
         estado().act.ActOnline = 1;
@@ -105,6 +105,8 @@ protected:
     SinImpresora impresora_;
     /// Set before a start: shows the help instead of the program's own window.
     VisorAyuda* visor_ = nullptr;
+    /// Set before a start: without them the commands of the menu of utilities are off.
+    PuertosUtilidades utilidades_;
     QTemporaryDir carpeta_;
     std::unique_ptr<Programa> programa_;
     std::unique_ptr<Guia> guia_;

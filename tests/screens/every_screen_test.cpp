@@ -41,6 +41,8 @@ const QMap<QString, QStringList> Bilingues = {
       QStringLiteral("lblEstonia"), QStringLiteral("lblHungria"), QStringLiteral("lblLituania"),
       QStringLiteral("lblMalta"), QStringLiteral("lblPolonia"), QStringLiteral("lblRepCheca")}},
     {QStringLiteral("frmAbout"), {QStringLiteral("lblcopy")}},
+    // Each language by its own name.
+    {QStringLiteral("frmPreferencias"), {QStringLiteral("optEusk"), QStringLiteral("optCast")}},
     {QStringLiteral("frmInicio"),
      {QStringLiteral("lblTitulo"), QStringLiteral("lblTitulo1"), QStringLiteral("lblVersion"),
       QStringLiteral("lblAct"), QStringLiteral("Label1"), QStringLiteral("lblDescripcion"),
@@ -231,6 +233,8 @@ protected:
     void recorrerDialogos() {
         mirarDialogo("frmAbout", "cmdOK");
         guia().Ordenar(QStringLiteral("mnuabout"));
+        mirarDialogo("frmPreferencias", "cmdCancelar");
+        guia().Ordenar(QStringLiteral("mnuPreferencias"));
         mirarDialogo("FrmIdioma", euskera() ? "cmdeuskera" : "cmdcastellano");
         ventana().primerArranque();
         frmInicio inicio(estado());

@@ -43,7 +43,7 @@ void otherDatabase(const QString& path) {
     remove(path);
     Execute(path, "CREATE TABLE t (a); INSERT INTO t VALUES (1)");
 }
-void newer(const QString& path) { Execute(path, "PRAGMA user_version = 2"); }
+void newer(const QString& path) { Execute(path, "PRAGMA user_version = 9999"); }
 void unknownLayout(const QString& path) { Execute(path, "PRAGMA user_version = 0"); }
 void half(const QString& path) {
     const QByteArray whole = Bytes(path);
@@ -289,7 +289,7 @@ TEST_F(Unusable, AnyOtherErrorOfTheEngineIsToldWithItsNumber) {
 }
 
 TEST_F(Unusable, AJournalBesideAFileThatIsNotOursIsNotPlayedBack) {
-    Execute(mod, "PRAGMA user_version = 2");
+    Execute(mod, "PRAGMA user_version = 9999");
     Overwrite(mod + QStringLiteral("-journal"), "some journal");
     const QByteArray before = Bytes(mod);
     EXPECT_THROW(declarations(mod).GuardarDeclaracion({}), Fallo);

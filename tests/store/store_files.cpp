@@ -5,13 +5,10 @@
 #include <sqlite3.h>
 
 #include <QFile>
-#include <ostream>
 
 #include "store/collation.h"
 #include "store/new_files.h"
 #include "store/schema.h"
-
-void PrintTo(const QString& text, std::ostream* out) { *out << '"' << text.toStdString() << '"'; }
 
 namespace padral::test {
 

@@ -7,6 +7,7 @@
 
 #include "store/columns.h"
 #include "store/declarations_server.h"
+#include "support/print_text.h"
 
 namespace SQLite {
 class Database;
@@ -58,6 +59,3 @@ void ExpectSame(const SvrDPadral::FilasDeclaracion& actual,
                 const SvrDPadral::FilasDeclaracion& expected);
 
 }  // namespace padral::test
-
-/// For readable messages of failed comparisons.
-void PrintTo(const QString& text, std::ostream* out);

@@ -5,8 +5,9 @@
 #include <QDir>
 #include <QFile>
 
+#include "platform/failure.h"
 #include "store/collation.h"
-#include "store/store_files.h"
+#include "store/older_files.h"
 
 namespace padral::test {
 namespace {
@@ -83,6 +84,41 @@ TEST_F(Transfer, MakesTheKeysOfEachRowOnce) {
     EXPECT_EQ(Value(mod, "SELECT count(DISTINCT csde) FROM Cambios"), QString::number(Rows));
     EXPECT_EQ(Value(mod, "SELECT count(*) FROM TDeclaraciones WHERE DniMayusculas <> DNI"),
               QStringLiteral("0"));
+}
+
+// The run goes on with the file as it is now.
+TEST_F(Transfer, CarriesAnOlderFileToThePresentLayout) {
+    WriteLayout(mod, 1);
+    const auto before = Content(mod);
+    EXPECT_FALSE(Run());
+    EXPECT_EQ(Value(mod, "PRAGMA user_version"), QStringLiteral("2"));
+    ExpectSurvived(Path("DPadralMod_v1.mdb"), before);
+    EXPECT_EQ(Names("2"),
+              QStringLiteral("nube blanca, s.l. ÑUÑEZ ETXEBERRIA, MAITE O'Hara & Oña 😀 "));
+    const QByteArray carried = Bytes(mod);
+    EXPECT_FALSE(Run());
+    EXPECT_EQ(Bytes(mod), carried);
+    EXPECT_EQ(FilesBeside(mod).size(), 3);
+}
+
+TEST_F(Transfer, RemakesTheSortKeysOfAnOlderFile) {
+    WriteLayout(mod, 1);
+    Execute(mod,
+            "UPDATE TGENERAL SET VersionOrden = '1.2';"
+            "UPDATE TDeclaraciones SET NombreClave = x'00', DniMayusculas = ''");
+    EXPECT_FALSE(Run());
+    EXPECT_EQ(Names("2"),
+              QStringLiteral("nube blanca, s.l. ÑUÑEZ ETXEBERRIA, MAITE O'Hara & Oña 😀 "));
+    EXPECT_EQ(Value(mod, "SELECT VersionOrden FROM TGENERAL"), store::CollationVersion());
+}
+
+TEST_F(Transfer, LeavesAnOlderFileThatCannotBeCarriedAsItIs) {
+    WriteLayout(mod, 1);
+    Execute(mod, "DROP TABLE TApartado7");
+    const QByteArray before = Bytes(mod);
+    EXPECT_THROW(Run(), Fallo);
+    EXPECT_EQ(Bytes(mod), before);
+    EXPECT_EQ(FilesBeside(mod).size(), 2);
 }
 
 }  // namespace

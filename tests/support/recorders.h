@@ -40,6 +40,11 @@ public:
         Espera(Mensaje{texto, titulo, Icono::Informacion, Botones::Aceptar});
     }
 
+    /// The same where the text goes on with what the test cannot know, such as the date of a file.
+    void EsperaComienzo(const Mensaje& mensaje, Respuesta respuesta = Respuesta::Aceptar) {
+        esperados_.push_back({mensaje, respuesta, true});
+    }
+
     Respuesta Mostrar(const Mensaje& mensaje) override {
         Mostrados.push_back(mensaje);
         if (alMostrar) alMostrar(mensaje);
@@ -49,7 +54,9 @@ public:
         }
         const auto esperado = esperados_.front();
         esperados_.pop_front();
-        EXPECT_EQ(mensaje, esperado.mensaje);
+        Mensaje comparable = mensaje;
+        if (esperado.soloComienzo) comparable.texto.truncate(esperado.mensaje.texto.size());
+        EXPECT_EQ(comparable, esperado.mensaje);
         return esperado.respuesta;
     }
 
@@ -73,6 +80,7 @@ private:
     struct Esperado {
         Mensaje mensaje;
         Respuesta respuesta;
+        bool soloComienzo = false;
     };
     std::deque<Esperado> esperados_;
 };

@@ -22,7 +22,12 @@ constexpr int PeriodoVigia = 5;
 
 Guia::Guia(QWidget* ventana, QString carpeta) : ventana_(ventana), carpeta_(std::move(carpeta)) {
     if (!carpeta_.isEmpty()) QDir().mkpath(carpeta_);
-    connect(&vigia_, &QTimer::timeout, this, &Guia::vigilar);
+    // Not from the timer itself: it stands still while its handler has a dialog open, and that
+    // dialog may open another.
+    connect(&vigia_, &QTimer::timeout, this, [this] {
+        QMetaObject::invokeMethod(
+            this, [this] { vigilar(); }, Qt::QueuedConnection);
+    });
     vigia_.start(PeriodoVigia);
 }
 

@@ -28,9 +28,12 @@ QString carpetaNueva(const QString& salida, const QString& nombre) {
 
 Visita::Visita(const QString& salida, const QString& idioma) : salida_(salida), idioma_(idioma) {
     impresora_.UsarPdf(salida);
-    programa_ = std::make_unique<Programa>(Puertos{avisador_, reloj_, impresora_},
-                                           CarpetaEjecutable(), carpetaNueva(salida, idioma));
+    const PuertosUtilidades utilidades{&descarga_, &navegador_, &elecciones_};
+    programa_ =
+        std::make_unique<Programa>(Puertos{avisador_, reloj_, impresora_, nullptr, utilidades},
+                                   CarpetaEjecutable(), carpetaNueva(salida, idioma));
     avisador_.finEspera = [this] { programa_->ventana().CursorEspera(false); };
+    elecciones_.finEspera = avisador_.finEspera;
     avisador_.esEuskera = [this] { return programa_->estado().DesplazamientoIdioma != 0; };
 }
 
@@ -125,6 +128,8 @@ void Visita::Recorrer() {
         imprimirEmpresa();
         imprimir(QStringLiteral("aldabe"));
         imprimir(QStringLiteral("nordwind"));
+        mirarVersiones();
+        copiarYRestaurar();
     } catch (const GuiaPerdida& e) {
         foto(QStringLiteral("99-stopped"));
         throw GuiaPerdida(e.what() + std::string("; messages so far: ") +

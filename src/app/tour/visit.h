@@ -7,6 +7,7 @@
 
 #include "app/program.h"
 #include "app/tour/guide.h"
+#include "app/tour/visit_ports.h"
 #include "printing/ui/printer_factory.h"
 #include "ui/message_box.h"
 
@@ -66,10 +67,18 @@ private:
     void participar(const std::vector<std::pair<const char*, const char16_t*>>& campos);
     void declararNoResidente();
 
+    // The menu of utilities, in visit_utilities.cpp.
+    void mirarVersiones();
+    void consultarVersion(const QString& dialogo, const QString& nombre);
+    void copiarYRestaurar();
+
     QString salida_, idioma_;
     AvisadorPantalla avisador_;
     RelojVisita reloj_;
     FabricaQt impresora_{reloj_};
+    DescargaVisita descarga_;
+    NavegadorVisita navegador_;
+    EleccionesVisita elecciones_;
     std::unique_ptr<Programa> programa_;
     std::unique_ptr<Guia> guia_;
 };

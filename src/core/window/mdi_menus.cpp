@@ -15,7 +15,7 @@ namespace padral {
 namespace {
 
 /// Menus and entries with their texts, in the order in which they stand. `menu` is where an entry
-/// lies; "" is the bar. Entries without a command yet stay off.
+/// lies; "" is the bar. Entries are off until they have a command.
 struct EntradaMenu {
     const char16_t* nombre;
     const char16_t* menu;
@@ -72,22 +72,26 @@ void MDIPadral::crearMenus() {
         accion->setEnabled(false);
         acciones_[nombre] = accion;
     }
-    const auto conectar = [this](const char16_t* nombre, const std::function<void()>& hacer) {
-        auto* accion = acciones_[QString::fromUtf16(nombre)];
-        accion->setEnabled(true);
-        connect(accion, &QAction::triggered, this, [this, hacer] { orden(hacer); });
-    };
-    conectar(u"mnuabrir", [this] { abrirLista(QStringLiteral("C"), QStringLiteral("A"), true); });
-    conectar(u"mnueliminar",
+    conectar(QStringLiteral("mnuabrir"),
+             [this] { abrirLista(QStringLiteral("C"), QStringLiteral("A"), true); });
+    conectar(QStringLiteral("mnueliminar"),
              [this] { abrirLista(QStringLiteral("E"), QStringLiteral("E"), true); });
-    conectar(u"mnunueva", [this] { nueva(); });
-    conectar(u"mnucontenido", [this] { ayuda(formularioEnMano()); });
-    conectar(u"mnuabout", [this] {
-        // A dialog takes the user's input.
-        CursorEspera(false);
-        if (mostrarAcercaDe) mostrarAcercaDe();
-    });
+    conectar(QStringLiteral("mnunueva"), [this] { nueva(); });
+    conectar(QStringLiteral("mnucontenido"), [this] { ayuda(formularioEnMano()); });
     acciones_[QStringLiteral("mnucontenido")]->setShortcut(QKeySequence::HelpContents);
+}
+
+void MDIPadral::conectar(const QString& entrada, std::function<void()> hacer) {
+    QAction* accion = acciones_[entrada];
+    accion->setEnabled(true);
+    connect(accion, &QAction::triggered, this, [this, hacer = std::move(hacer)] { orden(hacer); });
+}
+
+void MDIPadral::PonerComando(const QString& entrada, std::function<void()> comando) {
+    conectar(entrada, [this, comando = std::move(comando)] {
+        CursorEspera(false);
+        comando();
+    });
 }
 
 void MDIPadral::crearBarra() {
@@ -138,8 +142,6 @@ void MDIPadral::activarDeclaraciones(bool activo) {
     const bool hay = activo && estado_.mdi.NUMDECLA >= 1;
     menus_[QStringLiteral("mnudeclaraciones")]->setEnabled(activo);
     menus_[QStringLiteral("mnuutilidades")]->setEnabled(activo);
-    menus_[QStringLiteral("mnuAsistenciaOnline")]->setEnabled(
-        acciones_[QStringLiteral("mnuAsisOnline")]->isEnabled());
     botones_[0]->setEnabled(activo);
     botones_[1]->setEnabled(hay);
     botones_[2]->setEnabled(hay);

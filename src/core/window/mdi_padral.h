@@ -39,7 +39,9 @@ public:
     std::function<void()> primerArranque;
     /// Shows a page of the help.
     std::function<void(const QString& tema)> mostrarAyuda;
-    std::function<void()> mostrarAcercaDe;
+    /// Puts a command of the program behind the menu entry of that name, which is off without one.
+    /// The command shows dialogs: it runs without the wait cursor.
+    void PonerComando(const QString& entrada, std::function<void()> comando);
 
     void Anadir_captions();
     /// Shows the window in its own size, or over the whole screen where that is smaller.
@@ -67,6 +69,7 @@ private:
     void crearMenus();
     void crearBarra();
     QAction* accion(const QString& nombre, QWidget* menu, std::function<void()> orden);
+    void conectar(const QString& entrada, std::function<void()> hacer);
     void orden(const std::function<void()>& hacer);
     void abrirLista(const QString& modo, const QString& entrada, bool desdeMenu);
     void nueva();
