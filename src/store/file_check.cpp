@@ -10,7 +10,7 @@
 #include <string>
 
 #include "store/database.h"
-#include "store/schema.h"
+#include "store/migration.h"
 
 namespace padral::store {
 
@@ -55,30 +55,13 @@ private:
     const GoOn& goOn_;
 };
 
-// In brackets: what stands in quotation marks and is no column would be taken as a text.
-void requireColumns(SQLite::Database& db, std::string_view table, std::span<const Column> columns) {
-    std::string sql;
-    for (const Column& column : columns)
-        sql += (sql.empty() ? "SELECT [" : ", [") + std::string(column.name) + ']';
-    const SQLite::Statement compiled(db, sql + " FROM [" + std::string(table) + ']');
-}
-
-void requireTables(SQLite::Database& db) {
-    requireColumns(db, GeneralData().name, GeneralData().columns);
-    for (const RecordTable& table : SectionTables()) requireColumns(db, table.name, table.columns);
-    requireColumns(db, Participants().name, Participants().columns);
-    requireColumns(db, AuxiliaryParticipants, Participants().columns);
-    const SQLite::Statement settings(db, "SELECT IDI, ActOnline, VersionOrden FROM TGENERAL");
-}
-
 int countAll(SQLite::Database& db) {
     return db.execAndGet("SELECT count(*) FROM TDeclaraciones").getInt();
 }
 
 FileSummary checkAll(SQLite::Database& db, int layout, const QString& name) {
-    if (db.execAndGet("PRAGMA integrity_check(1)").getString() != "ok")
-        throw FileFailure(FileFault::Damaged, name);
-    if (layout == SchemaVersion) requireTables(db);
+    const bool whole = db.execAndGet("PRAGMA integrity_check(1)").getString() == "ok";
+    if (!whole || !FitsPresentLayout(db)) throw FileFailure(FileFault::Damaged, name);
     return {layout, countAll(db)};
 }
 

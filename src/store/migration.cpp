@@ -67,12 +67,16 @@ bool passesIntegrityCheck(SQLite::Database& db) {
     return db.execAndGet("PRAGMA integrity_check(1)").getString() == "ok";
 }
 
-void runSteps(SQLite::Database& db, const QString& path, const Migration& migration) {
+void carrySteps(SQLite::Database& db, const Migration& migration) {
     for (const MigrationStep& step : migration.steps)
         if (step.from == layoutVersionOf(db)) {
             step.carry(db);
             db.exec("PRAGMA user_version = " + std::to_string(step.from + 1));
         }
+}
+
+void runSteps(SQLite::Database& db, const QString& path, const Migration& migration) {
+    carrySteps(db, migration);
     if (!passesIntegrityCheck(db) || !hasLayout(db, migration))
         throw FileFailure(FileFault::Damaged, path);
 }
@@ -114,6 +118,19 @@ Fallo notCarried(const QString& path, const Fallo& cause) {
 const Migration& DeclarationsMigration() {
     static constexpr Migration migration{MigrationSteps, CreateDeclarationTables};
     return migration;
+}
+
+bool FitsPresentLayout(SQLite::Database& db) {
+    const Migration& migration = DeclarationsMigration();
+    const auto fits = [&] {
+        return hasLayout(db, migration) &&
+               db.execAndGet("SELECT count(*) FROM TGENERAL").getInt() == 1;
+    };
+    if (layoutVersionOf(db) > migration.steps.back().from) return fits();
+    // Rolled back at its end.
+    const WriteTransaction transaction(db);
+    carrySteps(db, migration);
+    return fits();
 }
 
 bool Migrate(const QString& path, int busyTimeout, const Migration& migration) {

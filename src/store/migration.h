@@ -31,6 +31,11 @@ struct Migration {
 /// From OldestSchemaVersion to SchemaVersion.
 const Migration& DeclarationsMigration();
 
+/// Whether a whole file, carried over where it is older, is one that the program works with: every
+/// table and index, and its row of settings. Nothing in the file changes. Throws SQLite::Exception,
+/// SQLITE_ERROR or SQLITE_CORRUPT for a file that a step cannot carry.
+bool FitsPresentLayout(SQLite::Database& db);
+
 /// Carries the file to the layout behind the last step, in one transaction; a copy of the older
 /// file is kept beside it. Returns false, and leaves the file as it is, when it is of that layout.
 /// Another program may do the same at the same time. Throws Fallo for a file that Open refuses,

@@ -47,13 +47,21 @@ TEST_F(FileCheck, OlderLayoutPassesThatCanBeCarriedOver) {
     EXPECT_EQ(Refusal(mod), QStringLiteral("El archivo «X» está dañado."));
 }
 
-// An older layout may lack what this one has, but never the declarations.
-TEST_F(FileCheck, OnlyThisLayoutNeedsAllColumns) {
+// What could not be carried over after a restore would lock the user out: it is refused before.
+TEST_F(FileCheck, AnOlderLayoutHasToLeadToThisOne) {
+    const char* cases[] = {"DROP TABLE TAnexoII", "DELETE FROM TGENERAL", "DROP TABLE TGENERAL",
+                           "ALTER TABLE TParticipes DROP COLUMN NOMBRE"};
     SetLayout(OldestSchemaVersion);
-    Execute(mod, "DROP TABLE TAnexoII");
+    const QByteArray sound = Bytes(mod);
     EXPECT_EQ(Refusal(mod), QString());
-    SetLayout(SchemaVersion);
-    EXPECT_EQ(Refusal(mod), QStringLiteral("El archivo «X» está dañado."));
+    EXPECT_EQ(Bytes(mod), sound);
+    for (const char* sql : cases) {
+        Overwrite(mod, sound);
+        Execute(mod, sql);
+        const QByteArray before = Bytes(mod);
+        EXPECT_EQ(Refusal(mod), QStringLiteral("El archivo «X» está dañado.")) << sql;
+        EXPECT_EQ(Bytes(mod), before) << sql;
+    }
 }
 
 struct ChangedFile {
@@ -76,6 +84,9 @@ TEST_F(FileCheck, RefusesByWhatTheFileSays) {
         {"ALTER TABLE TParticipes DROP COLUMN NOMBRE", "El archivo «X» está dañado."},
         {"DROP TABLE TGENERAL", "El archivo «X» está dañado."},
         {"DROP TABLE TParticipesAux", "El archivo «X» está dañado."},
+        {"DROP TABLE TAnexoII", "El archivo «X» está dañado."},
+        {"DELETE FROM TGENERAL", "El archivo «X» está dañado."},
+        {"DROP INDEX IParticipes", "El archivo «X» está dañado."},
     };
     const QByteArray sound = Bytes(mod);
     for (const ChangedFile& one : cases) {

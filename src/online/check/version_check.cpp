@@ -135,7 +135,7 @@ void ActualizacionOnline::AbrirPaginaDescarga(const QString& url) {
 // False where no browser opens it.
 bool ActualizacionOnline::abrirPagina(const QString& url) {
     const QString pagina = enCarpeta(nombrePagina());
-    if (!esDireccionWeb(url) || !quitarFichero(pagina) || !escribirPagina(pagina, url))
+    if (!quitarFichero(pagina) || !esDireccionWeb(url) || !escribirPagina(pagina, url))
         return false;
     const QString programa = navegador_.Buscar(pagina);
     return !programa.isEmpty() && navegador_.Abrir(programa, pagina);
