@@ -54,20 +54,24 @@ QStringList Tablas(const Base& base) {
     return tablas;
 }
 
-bool EsClaveDeLaLista(const QString& columna) {
+bool EsDelOrden(const QString& columna) {
     return columna.endsWith(QStringLiteral("Mayusculas")) ||
            (columna.endsWith(QStringLiteral("Clave")) && columna.size() > 5);
 }
 
 FilaGuardada LeerUna(const Consulta& consulta, const QString& tabla) {
-    FilaGuardada fila{tabla, 0, 0, {}};
+    FilaGuardada fila{tabla, 0, 0, {}, {}};
     for (int i = 0; i < sqlite3_column_count(consulta.get()); ++i) {
         const QString nombre = QString::fromUtf8(sqlite3_column_name(consulta.get(), i));
         if (nombre == ClaveDeclaracion)
             fila.declaracion = sqlite3_column_int64(consulta.get(), i);
         else if (nombre == ClaveParticipe)
             fila.clave = sqlite3_column_int64(consulta.get(), i);
-        else if (!EsClaveDeLaLista(nombre))
+        else if (EsDelOrden(nombre))
+            fila.orden[nombre] =
+                QByteArray(static_cast<const char*>(sqlite3_column_blob(consulta.get(), i)),
+                           sqlite3_column_bytes(consulta.get(), i));
+        else
             fila.valores[nombre] = Columna(consulta, i);
     }
     return fila;

@@ -9,16 +9,17 @@
 namespace padral::pruebas {
 
 /// One row: table, key of its declaration (0: of none), its own key, and all columns but those
-/// keys.
+/// keys. What the list is sorted by stands apart, byte by byte.
 struct FilaGuardada {
     QString tabla;
     qint64 declaracion = 0, clave = 0;
     QMap<QString, QString> valores;
+    QMap<QString, QByteArray> orden;
     bool operator==(const FilaGuardada&) const = default;
 };
 
-/// Every row of every table, in the order of the keys. Keys of the list and the auxiliary copy of
-/// the participants are left out: they follow from the others.
+/// Every row of every table, in the order of the keys, but for the auxiliary copy of the
+/// participants.
 std::vector<FilaGuardada> FilasGuardadas(const QString& fichero);
 
 /// Those of one declaration.
