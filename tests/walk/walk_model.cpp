@@ -72,6 +72,7 @@ QStringList ModeloDelPaseo::Despues(const Accion& accion, const QString& pendien
     anotarSordera(accion, ahora);
     cotejarVentana(ahora);
     if (ahora.formulario != antes_.formulario) ++Visitas[ahora.formulario];
+    espera_ = accion.enEspera && pendiente == accion.control ? accion.queda : std::nullopt;
     antes_ = ahora;
     return faltas_;
 }
@@ -86,11 +87,26 @@ void ModeloDelPaseo::cotejarPaso(const Accion& accion, const Momento& ahora, boo
     if (desdeFuera || ahora.formulario == Lista || ahora.formulario == Dialogo) return;
     cotejarCambios(accion, ahora);
     if (nueva) cotejarSalida(accion, ahora);
-    const auto* mando = MandoDe(antes_.formulario, accion.control);
-    const bool atiende = !nueva && !hablo && !sorda_;
-    if (atiende && mando && accion.queda && ahora.retrato.value(mando->propiedad) != *accion.queda)
+    cotejarEscrito(accion, ahora, hablo);
+}
+
+/// What was typed or ticked stands in the record, and what was left with it.
+void ModeloDelPaseo::cotejarEscrito(const Accion& accion, const Momento& ahora, bool hablo) {
+    if (hablo || sorda_) return;
+    const auto cotejar = [&](const QString& control, const std::optional<QString>& debe) {
+        const auto* mando = MandoDe(antes_.formulario, control);
+        if (!mando || !debe || ahora.retrato.value(mando->propiedad) == *debe) return;
+        // The command that left the field may have changed it again.
+        const Paso paso{antes_.formulario, accion.control, ahora.formulario};
+        const QString valor = ahora.retrato.value(mando->propiedad);
+        if (control != accion.control && PuedeCambiar(paso, mando->propiedad, valor)) return;
         falta(QStringLiteral("%1 holds \"%2\" and not \"%3\"")
-                  .arg(mando->propiedad, ahora.retrato.value(mando->propiedad), *accion.queda));
+                  .arg(mando->propiedad, ahora.retrato.value(mando->propiedad), *debe));
+    };
+    const bool otro = accion.control != antes_.pendiente;
+    if (otro && ahora.pendiente != antes_.pendiente) cotejar(antes_.pendiente, espera_);
+    const bool nueva = antes_.formulario != ahora.formulario;
+    if (!nueva && !accion.enEspera) cotejar(accion.control, accion.queda);
 }
 
 void ModeloDelPaseo::darPorAceptado(const Momento& momento) {

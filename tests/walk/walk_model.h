@@ -45,6 +45,7 @@ private:
     void cotejarApertura(const Accion& accion, const Momento& ahora);
     void cotejarCierre(const Momento& ahora);
     void cotejarCambios(const Accion& accion, const Momento& ahora);
+    void cotejarEscrito(const Accion& accion, const Momento& ahora, bool hablo);
     void cotejarSalida(const Accion& accion, const Momento& ahora);
     void cotejarRegreso(const Momento& ahora);
     void anotarSordera(const Accion& accion, const Momento& ahora);
@@ -75,6 +76,8 @@ private:
     QMap<QString, Retrato> aceptado_;
     /// What each screen showed when it was left, with the records of that moment.
     QMap<QString, Momento> dejada_;
+    /// What the field that was not left yet will hold.
+    std::optional<QString> espera_;
     /// The code of the activity was written: until the record is shown again section 3 takes no
     /// answer to the residence and no choice of its lists.
     bool sorda_ = false;

@@ -2,6 +2,7 @@
 
 #include <QFile>
 
+#include "walk/walk_controls.h"
 #include "walk/walk_model.h"
 
 namespace padral::pruebas {
@@ -54,7 +55,9 @@ void ModeloDelPaseo::cotejarGuardada(const Almacen& nuevo) {
             return falta(QStringLiteral("%1 new declarations after a save").arg(claves.size()));
         clave = claves.first();
     }
-    const Retrato retrato = paraGuardar(antes_.retrato);
+    Retrato retrato = paraGuardar(antes_.retrato);
+    const auto* mando = MandoDe(antes_.formulario, antes_.pendiente);
+    if (mando && espera_) retrato[mando->propiedad] = *espera_;
     const auto filas = FilasEsperadas(retrato, antes_.marcas);
     for (const auto& d : Diferencias(filas, FilasDe(nuevo, clave)) +
                              Diferencias(ParticipesEsperados(retrato), ParticipesDe(nuevo, clave)))

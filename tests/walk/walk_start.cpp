@@ -125,7 +125,8 @@ void inicio(cDeclaraciones& d) {
 }
 
 void previa(cDeclaraciones& d) {
-    identificar(d, u"00000023T", u"P");
+    // The identifier is what it asks for.
+    identificar(d, u"", u"P");
     d.general.Causa2 = l(u"A");
     d.general.FechaConstitucion = En2014;
     domiciliar(d);

@@ -49,17 +49,17 @@ Paseante::Paseante(Programa& programa, Guia& guia, AvisadorDelPaseo& avisador, A
 
 Accion Paseante::Andar() {
     const int mensajes = avisador_.Mostrados;
-    const auto hecho = elegirPaso();
-    Accion accion = hecho();
+    const QString anterior = pendiente_;
+    Accion accion = elegirPaso()();
     guia_.Respirar();
-    // A field that is refused keeps what was typed, and the focus.
+    const bool hablo = avisador_.Mostrados != mensajes;
     const auto* foco = qobject_cast<QLineEdit*>(QApplication::focusWidget());
-    if (foco && avisador_.Mostrados != mensajes &&
-        (foco->objectName() == accion.control || foco->objectName() == pendiente_))
-        pendiente_ = foco->objectName();
-    else if (!foco || foco->objectName() != pendiente_ || accion.control != pendiente_)
-        pendiente_.clear();
-    if (avisador_.Mostrados != mensajes) {
+    const QString campo = foco ? foco->objectName() : QString();
+    // A field that is refused keeps what was typed, and the focus.
+    rechazado_ = hablo && foco && (campo == accion.control || campo == anterior);
+    const bool espera = !hablo && accion.enEspera && campo == accion.control;
+    pendiente_ = rechazado_ || espera ? campo : QString();
+    if (hablo) {
         accion.queda.reset();
         accion.descripcion += QStringLiteral(" -> \"%1\"").arg(avisador_.Ultimo.left(60));
         if (accion.control.startsWith(QStringLiteral("cmd"))) ++rechazos_;
@@ -136,7 +136,9 @@ Paseante::Hecho Paseante::elegirEnPantalla(QWidget* pantalla) {
     if (lista && (!preparadas_.isEmpty() || azar_.PorCiento(40))) return abrirFila(pantalla);
     // What was refused is put right, or the user tries to leave it all the same.
     auto* campo = pantalla->findChild<QLineEdit*>(pendiente_);
-    if (!pendiente_.isEmpty() && campo && azar_.PorCiento(85)) return escribir(campo, true);
+    // A date of change has too many effects to be left by a command that saves.
+    const bool antes = pendiente_ == QStringLiteral("mskFechaModificacion");
+    if (campo && (antes || (rechazado_ && azar_.PorCiento(85)))) return escribir(campo, true);
     if (!tareas_.isEmpty() && azar_.PorCiento(92)) return hacerTarea(pantalla);
     const int quedarse = pasos_ <= 0 ? 0 : prudente_ ? 55 : 75;
     if (azar_.PorCiento(quedarse)) return elegirEdicion(pantalla);

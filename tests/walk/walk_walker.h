@@ -18,6 +18,8 @@ namespace padral::pruebas {
 struct Accion {
     QString control, descripcion;
     std::optional<QString> queda;
+    /// The field was not left yet: that is what it holds when it is.
+    bool enEspera = false;
 };
 
 /// The screen that is open; nullptr on the bare main window.
@@ -69,6 +71,7 @@ private:
     QList<qint32> preparadas_;
     std::function<QString(const QString&)> valor_;
     QString formulario_, pendiente_;
+    bool rechazado_ = false;  ///< the field in `pendiente_` was refused
     QList<Tarea> tareas_;
     /// Steps until the declaration is closed, and whether it shall stay one that can be saved.
     int pasos_ = 0;

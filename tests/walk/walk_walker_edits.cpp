@@ -132,12 +132,10 @@ Paseante::Hecho Paseante::escribir(QLineEdit* campo, const Escrito& escrito, boo
         const QString nombre = campo->objectName();
         const bool bloqueado = campo->isReadOnly();
         EscribirEn(campo, escrito.teclas, salida);
-        if (salida == Salida::Ninguna) pendiente_ = nombre;
         Accion accion{nombre, QStringLiteral("type \"%1\" in %2").arg(escrito.teclas, nombre), {}};
-        if (salida == Salida::Ninguna)
-            accion.descripcion += QStringLiteral(" and stay");
-        else if (!bloqueado)
-            accion.queda = escrito.queda;
+        accion.enEspera = salida == Salida::Ninguna;
+        if (accion.enEspera) accion.descripcion += QStringLiteral(" and stay");
+        if (!bloqueado) accion.queda = escrito.queda;
         return accion;
     };
 }
