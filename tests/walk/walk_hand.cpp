@@ -17,28 +17,29 @@ void teclear(const QString& teclas) {
 
 }  // namespace
 
-void EscribirEn(QLineEdit* campo, const QString& teclas, Salida salida) {
+bool EscribirEn(QLineEdit* campo, const QString& teclas, Salida salida) {
     QTest::mouseClick(campo, Qt::LeftButton);
-    // Leaving another field may have been refused.
-    if (QApplication::focusWidget() != campo) return;
+    if (QApplication::focusWidget() != campo) return false;
     campo->selectAll();
     QTest::keyClick(campo, Qt::Key_Delete);
     campo->setCursorPosition(0);
     teclear(teclas);
     if (salida == Salida::Tabulador) QTest::keyClick(campo, Qt::Key_Tab);
     if (salida == Salida::Intro) QTest::keyClick(campo, Qt::Key_Return);
+    return true;
 }
 
-void PulsarEn(QWidget* control, bool conTeclado) {
+bool PulsarEn(QWidget* control, bool conTeclado) {
     if (conTeclado) {
         control->setFocus(Qt::TabFocusReason);
-        // A field that is refused keeps the focus.
-        if (QApplication::focusWidget() == control) QTest::keyClick(control, Qt::Key_Space);
-        return;
+        if (QApplication::focusWidget() != control) return false;
+        QTest::keyClick(control, Qt::Key_Space);
+        return true;
     }
     const bool marca = control->inherits("QCheckBox") || control->inherits("QRadioButton");
     const QPoint en = marca ? QPoint(EnLaMarca, control->height() / 2) : control->rect().center();
     QTest::mouseClick(control, Qt::LeftButton, Qt::NoModifier, en);
+    return true;
 }
 
 void ElegirEn(QComboBox* combo, int pasos) {

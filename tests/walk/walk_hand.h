@@ -11,10 +11,10 @@ namespace padral::pruebas {
 /// Where the focus goes after typing.
 enum class Salida { Tabulador, Intro, Ninguna };
 
-/// Types over what a field holds.
-void EscribirEn(QLineEdit* campo, const QString& teclas, Salida salida);
-/// A click, or the space bar where `conTeclado`.
-void PulsarEn(QWidget* control, bool conTeclado = false);
+/// Types over what a field holds. False: the field left before was refused, and nothing is typed.
+bool EscribirEn(QLineEdit* campo, const QString& teclas, Salida salida);
+/// A click, or the space bar where `conTeclado`; false as above.
+bool PulsarEn(QWidget* control, bool conTeclado = false);
 /// Keys on a list of choices, then Tab: Home, End, or `pasos` rows down (up when below 0).
 void ElegirEn(QComboBox* combo, int pasos);
 /// Clicks a cell; rows count from 0.

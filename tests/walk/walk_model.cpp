@@ -17,6 +17,11 @@ bool vacio(const QString& valor) {
     return valor.isEmpty() || valor == u'0' || valor == QStringLiteral("0.00");
 }
 
+bool esCancelar(const Accion& accion) {
+    return accion.control == QStringLiteral("cmdCancelar") ||
+           accion.control == QStringLiteral("PicCan");
+}
+
 /// The record of a section's screen, empty for other screens.
 QString apartadoDe(const QString& formulario) {
     if (formulario == QStringLiteral("frmAnexoII")) return QStringLiteral("A.");
@@ -58,7 +63,8 @@ ModeloDelPaseo::Momento ModeloDelPaseo::mirar() const {
     m.marcas = MarcasEsperadas(d);
     if (pantalla)
         for (const auto& mando : MandosDe(m.formulario))
-            if (const auto* control = pantalla->findChild<QWidget*>(mando.control))
+            if (const auto* control = pantalla->findChild<QWidget*>(mando.control);
+                control && !control->isHidden())
                 m.mostrado[mando.control] = LoQueMuestra(control);
     return m;
 }
@@ -104,7 +110,8 @@ void ModeloDelPaseo::cotejarEscrito(const Accion& accion, const Momento& ahora, 
                   .arg(mando->propiedad, ahora.retrato.value(mando->propiedad), *debe));
     };
     const bool otro = accion.control != antes_.pendiente;
-    if (otro && ahora.pendiente != antes_.pendiente) cotejar(antes_.pendiente, espera_);
+    if (otro && !esCancelar(accion) && ahora.pendiente != antes_.pendiente)
+        cotejar(antes_.pendiente, espera_);
     const bool nueva = antes_.formulario != ahora.formulario;
     if (!nueva && !accion.enEspera) cotejar(accion.control, accion.queda);
 }
@@ -153,8 +160,7 @@ void ModeloDelPaseo::cotejarCierre(const Momento& ahora) {
 /// Only what the step is about may change.
 void ModeloDelPaseo::cotejarCambios(const Accion& accion, const Momento& ahora) {
     const QString apartado = apartadoDe(antes_.formulario);
-    const bool cancela = accion.control == QStringLiteral("cmdCancelar") ||
-                         accion.control == QStringLiteral("PicCan");
+    const bool cancela = esCancelar(accion);
     auto propiedades = antes_.retrato.keys() + ahora.retrato.keys();
     propiedades.removeDuplicates();
     for (const auto& propiedad : propiedades) {
@@ -179,8 +185,7 @@ void ModeloDelPaseo::cotejarCambios(const Accion& accion, const Momento& ahora) 
 
 void ModeloDelPaseo::cotejarSalida(const Accion& accion, const Momento& ahora) {
     const QString apartado = apartadoDe(antes_.formulario);
-    const bool cancela = accion.control == QStringLiteral("cmdCancelar") ||
-                         accion.control == QStringLiteral("PicCan");
+    const bool cancela = esCancelar(accion);
     if (!apartado.isEmpty()) {
         const auto& d = programa_.declaracion();
         const auto tiene = Parte(ahora.retrato, apartado), tenia = Parte(antes_.retrato, apartado);
@@ -199,7 +204,8 @@ void ModeloDelPaseo::cotejarSalida(const Accion& accion, const Momento& ahora) {
         }
     }
     Momento dejada = antes_;
-    if (cancela || !antes_.pendiente.isEmpty()) dejada.mostrado.clear();
+    for (const auto& control : silenciosos(antes_)) dejada.mostrado.remove(control);
+    if (cancela) dejada.mostrado.clear();
     dejada_[antes_.formulario] = dejada;
     cotejarRegreso(ahora);
 }

@@ -33,7 +33,7 @@ Receta generales(bool euskera, Azar& azar) {
         r << campo(u"mskFechaModificacion", fecha(azar.Uno(Cambios), euskera));
     for (const auto* casilla : {u"chkApartado2", u"chkApartado3", u"chkApartado4", u"chkApartado5",
                                 u"chkApartado7", u"chkApartado8", u"chkAnexoII"})
-        if (azar.PorCiento(40)) r << marca(casilla);
+        if (azar.PorCiento(60)) r << marca(casilla);
     return r;
 }
 

@@ -54,9 +54,16 @@ void censar(cDeclaraciones& d, qint32 inicio = 0) {
     a.ActivEcon = l(u"1.6912");
     a.ListaEpigrafe = d.estado.catalogo.ObtenerDescripcionEpigrafe(a.ActivEcon);
     a.FechaInicio(inicio);
-    a.Fax = l(u"A");
-    a.numFax = 943000111;
+    a.PorcenDeduccion = 12;
     a.IdiomaPref = l(u"E");
+    a.MedioPref = l(u"P");
+    a.Correo = l(u"A");
+    a.DirCorreo = l(u"ane@etxea.eus");
+    a.Fax = l(u"B");
+    a.numFax = 943000111;
+    a.Movil = l(u"A");
+    a.numMovil = 600000222;
+    a.Consentimiento = l(u"S");
     a.Lleno = true;
 }
 
@@ -76,17 +83,28 @@ void responder(cApartado5& a, std::initializer_list<Letra RespuestasApartado5::*
     a.APARTADO5LLENO = true;
 }
 
+void socio(cApartado4& a) {
+    a.IVASOCIO = l(u"S");
+    a.NIF = l(u"E12345674");
+    a.NOMBRE = l(u"LASA ANAIAK");
+    a.Lleno = true;
+}
+
 using A5 = RespuestasApartado5;
 
 void persona(cDeclaraciones& d) {
     identificar(d, u"12345678Z", u"M", En2026);
     domiciliar(d);
     censar(d);
+    d.apartado3.ActVenMov = l(u"X");
     d.apartado4.IRPFDIRECT = l(u"O");
-    d.apartado4.Lleno = true;
-    responder(d.apartado5, {&A5::IRPFDIRECTSIMPLIF, &A5::IVA, &A5::GENERAL});
+    d.apartado4.IVAEXPORT = l(u"B");
+    d.apartado4.IVACUOADU = l(u"O");
+    socio(d.apartado4);
+    responder(d.apartado5, {&A5::IRPFDIRECTSIMPLIF, &A5::IVA, &A5::GENERAL, &A5::SATISRENDTRAB});
     d.apartado7.LimSupPais[0] = l(u"S");
     d.apartado7.DestRevocPais[24] = l(u"D");
+    d.apartado7.Agric = l(u"S");
     d.apartado7.Lleno = true;
     d.anexoII.Aplicacion = l(u"S");
     d.anexoII.Lleno = true;
@@ -111,10 +129,7 @@ void empresa(cDeclaraciones& d) {
     censar(d);
     constituir(d);
     d.apartado4.IVABIENES = l(u"O");
-    d.apartado4.IVASOCIO = l(u"S");
-    d.apartado4.NIF = l(u"E12345674");
-    d.apartado4.NOMBRE = l(u"LASA ANAIAK");
-    d.apartado4.Lleno = true;
+    socio(d.apartado4);
     responder(d.apartado5, {&A5::SOCIEDADES, &A5::IVA, &A5::GENERAL, &A5::BIENESMARGEN});
 }
 

@@ -59,6 +59,9 @@ Accion Paseante::Andar() {
     rechazado_ = hablo && foco && (campo == accion.control || campo == anterior);
     const bool espera = !hablo && accion.enEspera && campo == accion.control;
     pendiente_ = rechazado_ || espera ? campo : QString();
+    // A code that is not known opens its list, and the step goes no further.
+    const auto* pantalla = PantallaAbierta(programa_.ventana());
+    if (pantalla && listaAbierta(pantalla)) accion.queda.reset();
     if (hablo) {
         accion.queda.reset();
         accion.descripcion += QStringLiteral(" -> \"%1\"").arg(avisador_.Ultimo.left(60));
@@ -88,11 +91,11 @@ Paseante::Hecho Paseante::elegirEnVentana() {
     QString orden = QStringLiteral("Abrir");
     if (preparadas_.isEmpty()) {
         if (azar_.PorCiento(35)) orden = QStringLiteral("Nueva");
-        if (azar_.PorCiento(cuantas > MuchasDeclaraciones ? 60 : 8))
+        if (azar_.PorCiento(cuantas > MuchasDeclaraciones ? 60 : 15))
             orden = QStringLiteral("Borrar");
     }
     if (cuantas == 0) orden = QStringLiteral("Nueva");
-    pasos_ = (preparadas_.isEmpty() ? 15 : 40) + azar_.Hasta(45);
+    pasos_ = 40 + azar_.Hasta(preparadas_.isEmpty() ? 60 : 30);
     recorrida_ = false;
     prudente_ = !preparadas_.isEmpty() || azar_.PorCiento(50);
     return [this, orden] {
@@ -175,7 +178,7 @@ Paseante::Hecho Paseante::elegirSalida(QWidget* pantalla) {
     const bool volver = pasos_ <= 0 || rechazos_ > 1;
     if (!volver && !siguientes.isEmpty() && azar_.PorCiento(prudente_ ? 85 : 60))
         return pulsar(siguientes.first());
-    if (rechazos_ > 1 || azar_.PorCiento(5)) {
+    if (rechazos_ > 1 || azar_.PorCiento(15)) {
         if (salidas.contains(QStringLiteral("cmdCancelar")))
             return pulsar(QStringLiteral("cmdCancelar"));
     } else {

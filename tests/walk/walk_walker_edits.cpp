@@ -131,11 +131,11 @@ Paseante::Hecho Paseante::escribir(QLineEdit* campo, const Escrito& escrito, boo
     return [=, this] {
         const QString nombre = campo->objectName();
         const bool bloqueado = campo->isReadOnly();
-        EscribirEn(campo, escrito.teclas, salida);
+        const bool escribio = EscribirEn(campo, escrito.teclas, salida);
         Accion accion{nombre, QStringLiteral("type \"%1\" in %2").arg(escrito.teclas, nombre), {}};
-        accion.enEspera = salida == Salida::Ninguna;
+        accion.enEspera = escribio && salida == Salida::Ninguna;
         if (accion.enEspera) accion.descripcion += QStringLiteral(" and stay");
-        if (!bloqueado) accion.queda = escrito.queda;
+        if (escribio && !bloqueado) accion.queda = escrito.queda;
         return accion;
     };
 }
@@ -151,7 +151,7 @@ Paseante::Hecho Paseante::marcar(QWidget* casilla) {
             const bool opcion = qobject_cast<QRadioButton*>(casilla) != nullptr;
             accion.queda = estaba && !opcion ? QString() : mando->valor;
         }
-        PulsarEn(casilla, tecla);
+        if (!PulsarEn(casilla, tecla)) accion.queda.reset();
         return accion;
     };
 }
