@@ -1,5 +1,7 @@
 #include "declaration/section_boxes.h"
 
+#include <algorithm>
+
 namespace padral {
 
 namespace {
@@ -11,6 +13,12 @@ const QString MarcaDeSeccion = QStringLiteral("X");
 
 bool tipoNoEs(const QString& c, QStringView excluidos) {
     return !c.trimmed().isEmpty() && !excluidos.contains(c);
+}
+
+/// The counters may be 0 while there are some: a modification that is no more sets them so.
+bool hayParticipes(const D& d) {
+    return std::ranges::any_of(d.participantes.colParticipes,
+                               [](const auto& p) { return p->Modo.texto() != u"E"; });
 }
 
 /// Stored participants are kept until the save, which deletes them in the store.
@@ -47,9 +55,8 @@ constexpr std::array<CasillaApartado, 8> Apartados = {{
      [](const D& d) { return d.apartado7.Lleno; },
      [](D& d) { d.apartado7.ResetForNewDeclaration(); },
      [](const D&, const QString& c) { return tipoNoEs(c, u""); }},
-    {u"chkApartado8", u"cmdAnexo", 8, 410, 411, 531, 532, u"AI", &S::AnexoI,
-     [](const D& d) { return d.general.NumParti > 0; }, borrarParticipes,
-     [](const D& d, const QString&) { return !d.AnexoIForzado(); }},
+    {u"chkApartado8", u"cmdAnexo", 8, 410, 411, 531, 532, u"AI", &S::AnexoI, hayParticipes,
+     borrarParticipes, [](const D& d, const QString&) { return !d.AnexoIForzado(); }},
     {u"chkAnexoII", u"cmdAnexoII", 10, 751, 752, 746, 747, u"AII", &S::AnexoII,
      [](const D& d) { return d.anexoII.Lleno; }, [](D& d) { d.anexoII.ResetForNewDeclaration(); },
      [](const D&, const QString& c) { return tipoNoEs(c, u"C"); }},

@@ -77,8 +77,9 @@ using AnexoI = ConDeclaracion;
 
 TEST_F(AnexoI, TieneDatosMientrasQuedenParticipes) {
     EXPECT_FALSE(lleno(d, Apartado::AnexoI));
-    ponerParticipe(u"12345678Z", u"A");
+    const auto unico = ponerParticipe(u"12345678Z", u"A");
     EXPECT_TRUE(lleno(d, Apartado::AnexoI));
+    unico->Modo = QStringLiteral("E");
     d.DecrementarNumParti();
     EXPECT_FALSE(lleno(d, Apartado::AnexoI));
 }

@@ -169,5 +169,18 @@ TEST_P(QuitarUnTipo, VaciaDelTresAlSieteYElAnexoII) {
 }
 INSTANTIATE_TEST_SUITE_P(Letras, QuitarUnTipo, ::testing::Values(u'P', u'I', u'M', u'C'));
 
+// The counters are 0 then, the participants are still there to be cleared by their box.
+TEST_F(Tipos, QuitarLaModificacionNoEscondeLosParticipes) {
+    g.Causa1 = QStringLiteral("M");
+    const auto guardado = ponerParticipe(u"12345678Z", u"C", 3);
+    QuitarTipo(d);
+    EXPECT_EQ(g.NumParti, 0);
+    const auto& anexoI = CasillaDe(Apartado::AnexoI);
+    EXPECT_TRUE(anexoI.lleno(d)) << "unticking it asks";
+    BorrarApartado(d, Apartado::AnexoI);
+    EXPECT_FALSE(anexoI.lleno(d));
+    EXPECT_EQ(guardado->Modo.texto(), QStringLiteral("E")) << "the store is told at the save";
+}
+
 }  // namespace
 }  // namespace padral::pruebas

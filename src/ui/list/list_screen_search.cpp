@@ -75,6 +75,8 @@ bool PantallaConLista::teclaEnBusqueda(QKeyEvent* evento) {
     switch (evento->key()) {
         case Qt::Key_Return:
         case Qt::Key_Enter: {
+            // The key that opened the search may still be down.
+            if (evento->isAutoRepeat()) return true;
             const Espera espera(pantallas_);
             pulsarBuscar();
             return true;
