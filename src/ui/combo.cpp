@@ -14,6 +14,7 @@ CajaCombo::CajaCombo(const QString& nombre, int caracteres, QWidget* padre) : QC
     setObjectName(nombre);
     setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
     setMinimumContentsLength(caracteres);
+    view()->installEventFilter(this);
     connect(model(), &QAbstractItemModel::rowsInserted, this,
             [this](const QModelIndex&, int desde, int hasta) { ensancharLista(desde, hasta); });
 }
@@ -31,6 +32,19 @@ void CajaCombo::ensancharLista(int desde, int hasta) {
 void CajaCombo::changeEvent(QEvent* evento) {
     QComboBox::changeEvent(evento);
     if (evento->type() == QEvent::FontChange && count() > 0) ensancharLista(0, count() - 1);
+}
+
+bool CajaCombo::eventFilter(QObject* objeto, QEvent* evento) {
+    if (objeto != view() || evento->type() != QEvent::KeyPress)
+        return QComboBox::eventFilter(objeto, evento);
+    const int tecla = static_cast<const QKeyEvent*>(evento)->key();
+    if (tecla != Qt::Key_Tab && tecla != Qt::Key_Backtab)
+        return QComboBox::eventFilter(objeto, evento);
+    QKeyEvent intro(QEvent::KeyPress, Qt::Key_Return, Qt::NoModifier);
+    QCoreApplication::sendEvent(view(), &intro);
+    // The choice may have led somewhere else.
+    if (hasFocus()) focusNextPrevChild(tecla == Qt::Key_Tab);
+    return true;
 }
 
 void CajaCombo::keyPressEvent(QKeyEvent* evento) {

@@ -6,8 +6,8 @@
 namespace padral {
 
 /// A list to choose from. Its drop-down is as wide as its widest row; Enter moves on as Tab does;
-/// the arrows change the choice, and open the list while there is none; the wheel scrolls the
-/// screen and leaves the choice alone.
+/// the arrows change the choice, and open the list while there is none; Tab in the open list takes
+/// its row and moves on; the wheel scrolls the screen and leaves the choice alone.
 class CajaCombo : public QComboBox {
     Q_OBJECT
 public:
@@ -18,6 +18,7 @@ public:
     std::function<void()> alPulsarIntro;
 
 protected:
+    bool eventFilter(QObject* objeto, QEvent* evento) override;
     void keyPressEvent(QKeyEvent* evento) override;
     void wheelEvent(QWheelEvent* evento) override;
     void changeEvent(QEvent* evento) override;

@@ -77,6 +77,43 @@ TEST_F(Combo, ArrowsWithoutAChoiceOpenTheList) {
     }
 }
 
+TEST_F(Combo, TabTakesTheRowOfTheOpenListAndMovesOn) {
+    for (const auto tecla : {Qt::Key_Tab, Qt::Key_Backtab}) {
+        combo->setFocus();
+        combo->setCurrentIndex(0);
+        int elegidas = 0;
+        const auto cuenta =
+            QObject::connect(combo, &QComboBox::activated, combo, [&elegidas] { ++elegidas; });
+        combo->showPopup();
+        combo->view()->setCurrentIndex(combo->model()->index(1, 0));
+        QTest::keyClick(combo->view(), tecla);
+        EXPECT_FALSE(combo->view()->isVisible());
+        EXPECT_EQ(combo->currentIndex(), 1);
+        EXPECT_EQ(elegidas, 1);
+        EXPECT_TRUE(siguiente->hasFocus());
+        QObject::disconnect(cuenta);
+    }
+}
+
+TEST_F(Combo, TabStaysWhereTheChoiceLed) {
+    auto* lejos = new QLineEdit(&ventana);
+    lejos->show();
+    QObject::connect(combo, &QComboBox::activated, lejos, [lejos] { lejos->setFocus(); });
+    combo->showPopup();
+    combo->view()->setCurrentIndex(combo->model()->index(1, 0));
+    QTest::keyClick(combo->view(), Qt::Key_Tab);
+    EXPECT_TRUE(lejos->hasFocus());
+}
+
+TEST_F(Combo, EscapeClosesTheListWithoutAChoice) {
+    combo->setCurrentIndex(-1);
+    combo->showPopup();
+    combo->view()->setCurrentIndex(combo->model()->index(1, 0));
+    QTest::keyClick(combo->view(), Qt::Key_Escape);
+    EXPECT_FALSE(combo->view()->isVisible());
+    EXPECT_EQ(combo->currentIndex(), -1);
+}
+
 TEST_F(Combo, ArrowsChooseFromAChoiceAndTheWheelDoesNot) {
     QTest::keyClick(combo, Qt::Key_Down);
     EXPECT_EQ(combo->currentIndex(), 1);
