@@ -90,6 +90,39 @@ TEST_F(PantallaApartado6, OtraFilaQuitaLaCausaLibre) {
     EXPECT_TRUE(visible(u"txtSinEpigrafe"));
 }
 
+// The last row shows the name of the cause and not what was written: choosing it takes the name.
+TEST_F(PantallaApartado6, LaFilaLibreElegidaDeNuevoQuitaLoEscrito) {
+    const struct {
+        bool euskera;
+        const char16_t* guardada;
+        bool cambia = true;
+    } casos[] = {{false, u"JUBILACION"},
+                 {false, u""},
+                 {false, u"OTRAS CAUSAS", false},
+                 {false, u"Otras causas", false},
+                 {true, u"ERRETIROA"},
+                 {true, u"OTRAS CAUSAS"},
+                 {true, u"BESTE ARRAZOI BATZUK", false},
+                 {true, u"Beste arrazoi batzuk", false}};
+    for (const auto& caso : casos) {
+        SCOPED_TRACE(s(caso.guardada));
+        if (caso.euskera) enEuskera();
+        poner(20150331, 99, caso.guardada);
+        const DatosApartado6 antes = r;
+        abrir();
+        ASSERT_EQ(filas().last(), caso.euskera ? q(u"Beste arrazoi batzuk") : q(u"Otras causas"));
+        elegir(8);
+        if (caso.cambia)
+            esperaCausa(99, caso.euskera ? u"BESTE ARRAZOI BATZUK" : u"OTRAS CAUSAS");
+        else
+            EXPECT_TRUE(datos() == antes);
+        EXPECT_EQ(r.MODIFAPARTADO6, caso.cambia);
+        EXPECT_EQ(texto(u"txtSinEpigrafe"), r.DESCRIPCIONCAUSA.recortado());
+        EXPECT_EQ(foco(), q(u"txtSinEpigrafe"));
+    }
+}
+
+/// Rows that are longer than the record, with blanks around them, in small letters.
 class CausaLarga : public PantallaApartado6 {
 protected:
     void SetUp() override {
@@ -98,10 +131,28 @@ protected:
             db.exec(
                 "INSERT INTO TCausasCese (CODCAUSA, CAUSACAS, CAUSAEUS) VALUES"
                 " ('10', 'CESE DE LA ACTIVIDAD POR JUBILACION', 'UZTEA'),"
-                " ('11', ' FALLECIMIENTO ', 'HERIOTZA')");
+                " ('11', ' Fallecimiento ', '  Heriotza '),"
+                " ('20', 'Jubilación', 'Erretiroa')");
         });
     }
 };
+
+TEST_F(CausaLarga, SeGuardaSinBlancosAlrededorYEnMayusculas) {
+    for (const bool euskera : {false, true}) {
+        if (euskera) enEuskera();
+        r.LIMPIARDATOS();
+        abrir();
+        elegir(1);
+        EXPECT_EQ(r.ObtenerDatos()[2],
+                  QVariant(euskera ? q(u"HERIOTZA            ") : q(u"FALLECIMIENTO       ")));
+        EXPECT_TRUE(cambiado());
+        elegir(2);
+        EXPECT_EQ(r.ObtenerDatos()[2],
+                  QVariant(euskera ? q(u"ERRETIROA           ") : q(u"JUBILACIÓN          ")));
+        EXPECT_EQ(r.CAUSA, 20) << "the catalogue knows it in capitals, too";
+        EXPECT_TRUE(cambiado());
+    }
+}
 
 TEST_F(CausaLarga, SeGuardanVeinteCaracteresYElCodigoDeLaEntera) {
     abrir();

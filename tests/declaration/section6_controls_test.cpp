@@ -8,19 +8,25 @@ namespace {
 
 struct Control {
     const char16_t* nombre;
-    int caption;
-    int ayuda = 0;  ///< 0: no tool tip
+    const char16_t *castellano, *euskera;
+    const char16_t *ayuda = u"", *ayudaEuskera = u"";
 };
 constexpr Control Controles[] = {
-    {u"lblTituloPantalla", 55},
-    {u"Label1", 58},
-    {u"Label2", 57},
-    {u"Label3", 56},
-    {u"lbl4", 764},
-    {u"cmdInicio", 670, 671},
-    {u"cmdCancelar", 14, 15},
-    {u"cmdAnterior", 10, 11},
-    {u"cmdSiguiente", 12, 13},
+    {u"lblTituloPantalla", u"APARTADO 6. CESE DE ACTIVIDAD", u"6. ATALA. JARDUERAREN AMAIERA"},
+    {u"Label1", u"Descripción de la causa", u"Arrazoiaren deskribapena"},
+    {u"Label2", u"Causa del cese (código)", u"Amaieraren arrazoia (kodea)"},
+    {u"Label3", u"Fecha de cese efectivo", u"Benetako amaieraren data"},
+    {u"lbl4", u"Fecha de inscripción en el registro", u"Erregistroko inskripzio data"},
+    {u"cmdInicio", u"   &Inicio", u"   &Hasiera", u"Muestra el panel Datos Generales",
+     u"Datu Orokorren panela erakusten du"},
+    {u"cmdCancelar", u"&Cancelar", u"Ut&zi", u"Salir. No se salvan los cambios.",
+     u"Irten. Aldaketak ez dira gordeko."},
+    {u"cmdAnterior", u"   &Anterior", u"   Au&rrekoa",
+     u"Se accede al apartado anterior. Se salvan los cambios.",
+     u"Aurreko atalera joango da. Aldaketak gorde egingo dira."},
+    {u"cmdSiguiente", u"     &Siguiente", u"     Hurre&ngoa",
+     u"Se accede al apartado siguiente. Se salvan los cambios.",
+     u"Hurrengo atalera joango da. Aldaketak gorde egingo dira."},
 };
 constexpr std::pair<const char16_t*, const char16_t*> Etiquetas[] = {{u"Label3", u"txtFecha"},
                                                                      {u"Label2", u"txtCausa"},
@@ -39,9 +45,9 @@ TEST_P(Controles6, ConSuTextoYSuAyuda) {
     abrir();
     for (const auto& control : Controles) {
         SCOPED_TRACE(s(control.nombre));
-        EXPECT_EQ(rotulo(control.nombre), estado.Texto(control.caption));
+        EXPECT_EQ(rotulo(control.nombre), q(GetParam() ? control.euskera : control.castellano));
         EXPECT_EQ(c(control.nombre)->toolTip(),
-                  control.ayuda ? estado.Texto(control.ayuda) : QString());
+                  q(GetParam() ? control.ayudaEuskera : control.ayuda));
     }
     EXPECT_EQ(pantalla->windowTitle(), GetParam() ? q(u"6. ATALA. JARDUERAREN AMAIERA")
                                                   : q(u"APARTADO 6. CESE DE ACTIVIDAD"));

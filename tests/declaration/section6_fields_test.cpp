@@ -94,11 +94,28 @@ TEST_P(Fechas6, VaciaSinHaberlaNoEsCambio) {
     r.LIMPIARDATOS();
     for (const bool euskera : {false, true}) {
         if (euskera) enEuskera();
-        for (const auto* escrita : {u"", u"00000000"}) {
+        abrir();
+        sinCambios([&] { rellenar(campo(), u""); });
+        EXPECT_FALSE(r.MODIFAPARTADO6);
+        EXPECT_EQ(fecha(campo()), euskera ? q(u"____/__/__") : q(u"__/__/____"));
+    }
+}
+
+// Zeros are digits: such a field is not empty.
+TEST_P(Fechas6, DeTodoCerosSeRechazaConFechaYSinElla) {
+    for (const bool euskera : {false, true}) {
+        if (euskera) enEuskera();
+        for (const bool habia : {false, true}) {
+            if (habia)
+                poner(20150331, 10, u"CESE DE ACTIVIDAD", 20150401);
+            else
+                r.LIMPIARDATOS();
             abrir();
-            sinCambios([&] { rellenar(campo(), escrita); });
-            EXPECT_FALSE(r.MODIFAPARTADO6);
-            EXPECT_EQ(fecha(campo()), euskera ? q(u"____/__/__") : q(u"__/__/____"));
+            esperaRechazo(u"00000000",
+                          euskera ? q(u"Idatzitako data ez da baliagarria...")
+                                  : q(u"La fecha introducida no es válida..."),
+                          euskera ? q(u"Akatsa datan") : q(u"Fallo en la fecha"));
+            EXPECT_EQ(fecha(campo()), euskera ? q(u"0000/00/00") : q(u"00/00/0000"));
         }
     }
 }
@@ -107,26 +124,26 @@ INSTANTIATE_TEST_SUITE_P(Campos, Fechas6, ::testing::Values(Cese, Inscripcion));
 TEST_F(PantallaApartado6, LaInscripcionSePuedeBorrar) {
     for (const bool euskera : {false, true}) {
         if (euskera) enEuskera();
-        for (const auto* escrita : {u"", u"00000000"}) {
-            poner(20150331, 10, u"CESE DE ACTIVIDAD", 20150401);
-            abrir();
-            rellenar(u"txtInscripcion", escrita);
-            EXPECT_EQ(r.FechaInscripcion, 0);
-            EXPECT_TRUE(r.MODIFAPARTADO6);
-            EXPECT_EQ(fecha(u"txtInscripcion"), euskera ? q(u"____/__/__") : q(u"__/__/____"));
-            EXPECT_EQ(foco(), q(u"cmdInicio"));
-        }
+        poner(20150331, 10, u"CESE DE ACTIVIDAD", 20150401);
+        abrir();
+        rellenar(u"txtInscripcion", u"");
+        EXPECT_EQ(r.FechaInscripcion, 0);
+        EXPECT_TRUE(r.MODIFAPARTADO6);
+        EXPECT_EQ(fecha(u"txtInscripcion"), euskera ? q(u"____/__/__") : q(u"__/__/____"));
+        EXPECT_EQ(foco(), q(u"cmdInicio"));
     }
 }
 
+// Empty it is a date before the first one.
 TEST_F(PantallaApartado6, LaDeCeseNoSePuedeBorrar) {
+    const std::pair<const char16_t*, const char16_t*> casos[] = {
+        {u"", u"La fecha introducida debe estar en el intervalo 01/01/1900 y 31/12/2099."},
+        {u"00000000", u"La fecha introducida no es válida..."}};
     for (const qint16 causa : std::initializer_list<qint16>{0, 10})
-        for (const auto* escrita : {u"", u"00000000"}) {
+        for (const auto& [escrita, mensaje] : casos) {
             poner(20150331, causa, u"CESE DE ACTIVIDAD");
             abrir();
-            avisos.Espera(q(u"La fecha introducida debe estar en el intervalo 01/01/1900 y "
-                            u"31/12/2099."),
-                          q(u"Fallo en la fecha"));
+            avisos.Espera(q(mensaje), q(u"Fallo en la fecha"));
             sinCambios([&] { rellenar(u"txtFecha", escrita); });
             avisos.Verificar();
             EXPECT_EQ(foco(), q(u"txtFecha"));

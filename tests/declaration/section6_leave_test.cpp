@@ -24,6 +24,7 @@ protected:
         g.FECHAVIGOR = 20150331;
         g.Apartado5 = q(u"X");
         estado.FormularioOrigen = q(u"MDIPadral");
+        avisos.alMostrar = [this](const Mensaje&) { EXPECT_TRUE(pantallas.EnEspera()); };
     }
     void sale() {
         EXPECT_EQ(pantallas.Tomar(), salida(GetParam().destino));

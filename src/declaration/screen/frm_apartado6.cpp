@@ -1,7 +1,6 @@
 #include "declaration/screen/frm_apartado6.h"
 
 #include <QKeyEvent>
-#include <algorithm>
 
 #include "declaration/section6_rules.h"
 #include "ui/review_messages.h"
@@ -12,11 +11,6 @@ namespace {
 
 /// By this number the chain knows no section before: it leads to the general data.
 constexpr int PrimerApartado = 2;
-
-/// A date typed whole of zeros: it is none, like the empty one.
-bool esCero(const QString& texto) {
-    return std::ranges::all_of(texto, [](QChar c) { return c == u'0' || c == u'/'; });
-}
 
 }  // namespace
 
@@ -54,8 +48,7 @@ void frmApartado6::conectarCampos() {
 
 bool frmApartado6::dejarFecha(CampoFecha* campo, qint32 DatosApartado6::*miembro,
                               bool puedeFaltar) {
-    const QString escrita = campo->Texto();
-    const QString texto = esCero(escrita) ? estado_.fecha.FecVacia() : escrita;
+    const QString texto = campo->Texto();
     const qint32 fecha = estado_.fecha.StringToLong(texto);
     if (fecha == apartado_.*miembro) {
         campo->Presentar(texto);
