@@ -61,6 +61,17 @@ TEST(Apartado6Impreso, CadaFechaEnElOrdenDelIdioma) {
         }
 }
 
+TEST(Apartado6Impreso, UnNumeroQueNoEsFechaSaleSinRellenar) {
+    for (const auto& [letra, texto] :
+         {std::pair(u"C", u"__/__/____"), std::pair(u"E", u"____/__/__")})
+        for (const auto& fila : fechas) {
+            ImpresionHoja4 impresion;
+            impresion.Idioma(letra);
+            impresion.apartado6.*fila.propiedad = 20150230;
+            impresion.EsperaSolo(ValorRomano(YApartado6, fila.x, 11.5F, QString::fromUtf16(texto)));
+        }
+}
+
 struct FilaCausa {
     qint16 codigo;
     const char16_t *castellano, *euskera;
@@ -108,6 +119,28 @@ TEST(Apartado6Impreso, UnaCausaDesconocidaNoTieneTexto) {
     impresion.almacen->PonerCatalogo();
     impresion.apartado6.CAUSA = 98;
     impresion.EsperaNinguno();
+}
+
+// The page prints whole for either mark.
+TEST(Apartado6Impreso, TambienConSoloElApartado7) {
+    for (const auto& [codigo, y, causa] :
+         {std::tuple(0, 9.0F, u"JUBILACIÓN          "), std::tuple(33, 12.0F, u"LIQUIDACION")}) {
+        ImpresionHoja4 impresion;
+        impresion.Idioma(u"C");
+        impresion.almacen->PonerCatalogo();
+        impresion.datos.Apartado6 = QString();
+        impresion.datos.Apartado7 = cruz;
+        impresion.apartado6.FECHACESE = 20150331;
+        impresion.apartado6.FechaInscripcion = 20150401;
+        impresion.apartado6.CAUSA = static_cast<qint16>(codigo);
+        impresion.apartado6.DESCRIPCIONCAUSA = QStringLiteral("JUBILACIÓN");
+        const Documento& documento = impresion.Copia();
+        Trazado trazado(documento, 2);
+        trazado.Espera(ValorRomano(YApartado6, 9, 11.5F, QStringLiteral("31/03/2015")));
+        trazado.Espera(ValorRomano(YApartado6, 50, 11.5F, QStringLiteral("01/04/2015")));
+        trazado.Espera(ValorRomano(YApartado6, 85, y, QString::fromUtf16(causa)));
+        EXPECT_EQ(Escritos(documento), ImpresionHoja4::Vacia() + 3);
+    }
 }
 
 // -------------------------------------------------------------------------------- section 7

@@ -267,9 +267,11 @@ TEST_F(Apartado6, InicializarLimpiaTambienLaCopia) {
         (r.*operacion)();
         EXPECT_FALSE(r.Lleno);
         EXPECT_FALSE(r.MODIFAPARTADO6);
-        EXPECT_TRUE(r.DESCRIPCIONCAUSA.vacio());
+        const Fila vacia = {0, 0, q(u"                    "), 0};
+        EXPECT_EQ(r.ObtenerDatos(), vacia);
+        r.CAUSA = 10;
         r.RecuperarDatosAuxiliares();
-        EXPECT_TRUE(static_cast<const DatosApartado6&>(r) == DatosApartado6{});
+        EXPECT_EQ(r.ObtenerDatos(), vacia);
     }
 }
 
@@ -282,6 +284,13 @@ TEST_F(Apartado6, DeclaracionNuevaNoHeredaElTextoLibre) {
 }
 
 // Section 7 ------------------------------------------------------------------------------------
+
+/// 59 answers not given and no flag.
+void esperaVacio(const DatosApartado7& datos) {
+    EXPECT_EQ(FilaDe<DatosApartado7>(datos, TablaApartado7()), Fila(59, QVariant(q(u""))));
+    EXPECT_FALSE(datos.Lleno);
+    EXPECT_FALSE(datos.Modificaciones);
+}
 
 TEST_F(Apartado7, BulgariaVaALaPosicion48) {
     r.LimSupPais[25 - 1] = q(u"S");
@@ -323,9 +332,9 @@ TEST_F(Apartado7, LaCopiaEnteraSePoneYSeVacia) {
     datos.Modificaciones = true;
     r.RellenarTablaAuxiliar(datos);
     EXPECT_TRUE(r.ObtenerDatosTablaAuxiliar() == datos);
-    EXPECT_TRUE(static_cast<const DatosApartado7&>(r) == DatosApartado7{});
+    esperaVacio(r);
     r.InicializarTablaAuxiliar();
-    EXPECT_TRUE(r.ObtenerDatosTablaAuxiliar() == DatosApartado7{});
+    esperaVacio(r.ObtenerDatosTablaAuxiliar());
 }
 
 TEST_F(Apartado7, InicializarVaciaRespuestasYDejaBanderas) {
@@ -344,8 +353,8 @@ TEST_F(Apartado7, DeclaracionNuevaNoHeredaNada) {
     r.CargarDatos(filaDistinta(TablaApartado7()));
     r.Modificaciones = true;
     r.ResetForNewDeclaration();
-    EXPECT_TRUE(static_cast<const DatosApartado7&>(r) == DatosApartado7{});
-    EXPECT_TRUE(r.ObtenerDatosTablaAuxiliar() == DatosApartado7{});
+    esperaVacio(r);
+    esperaVacio(r.ObtenerDatosTablaAuxiliar());
 }
 
 }  // namespace

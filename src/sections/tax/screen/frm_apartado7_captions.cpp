@@ -21,8 +21,7 @@ constexpr int HolguraFila = 2;
 
 void FrmApartado7::Anadir_captions() {
     setWindowTitle(Texto(TituloPantalla));
-    // The blanks in and around some texts only made room or broke a line.
-    for (const auto& [etiqueta, id] : etiquetas_) etiqueta->setText(Texto(id).simplified());
+    for (const auto& [etiqueta, id] : etiquetas_) etiqueta->setText(Texto(id));
     rotularEstados();
     rotularSujetos();
     botones_->Anadir_captions(estado_);
