@@ -123,9 +123,6 @@ void cDeclaracionesSvr::ModificarParticipe(const Tabla& datos) const {
     if (datos.Filas() == 0) return;
     WithWriting(mdbname, busyTimeout, [&](SQLite::Database& db) {
         const RecordTable& tabla = Participants();
-        SQLite::Statement existe(db, "SELECT 1 FROM TParticipes WHERE cspa = ?");
-        existe.bind(1, datos(0, 0).toInt());
-        if (!existe.executeStep()) return;
         SQLite::Statement orden(db, InsertSql(tabla.name, {}, tabla.columns));
         BindRow(orden, 1, tabla.columns, datos.FilaEntera(0));
         orden.exec();

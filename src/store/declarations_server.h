@@ -85,7 +85,8 @@ public:
     /// Inserts the participant of the first row (20 values) under a new key; `cspa` of the row is
     /// not looked at. Returns the key.
     qint32 AñadirParticipe(const Tabla& datos) const;
-    /// Updates the participant `cspa` of the first row; does nothing when there is none.
+    /// Updates the participant `cspa` of the first row. One that another running copy of the
+    /// program deleted meanwhile comes back under its key, as its declaration does.
     void ModificarParticipe(const Tabla& datos) const;
     void EliminarParticipe(qint32 cspa) const;
 };

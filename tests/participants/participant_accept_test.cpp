@@ -139,6 +139,12 @@ TEST_F(Aceptar, NoHayMasDeCien) {
     EXPECT_EQ(p().Modo, q(u"A"));
     EXPECT_TRUE(p().MODIFPARTICIPES);
     EXPECT_FALSE(estado.ModificacionesPendientes);
+    // It is refused at the door: what comes before that stays done, its copy is not taken.
+    EXPECT_TRUE(d.parLista.MODIFLISTAPART);
+    EXPECT_EQ(p().csde, 12);
+    auto copia = p();
+    copia.ObtenerDatosTablaAuxiliar();
+    EXPECT_TRUE(copia.DNI.vacio());
     esperaBotones(false, false);
     enEuskera();
     avisos.Espera(q(u" 100 partaide daude dagoeneko. Ezin da gehiago sartu."),

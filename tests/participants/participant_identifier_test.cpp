@@ -121,12 +121,31 @@ TEST_F(Identificador, UnoDeLaListaSeMuestra) {
     EXPECT_EQ(cuantos(), 2U);
 }
 
+// Whatever was pending, on the one that is left or on the one that is found.
+TEST_F(Identificador, ElHalladoNoTieneCambiosPendientes) {
+    for (const bool pendienteAntes : {false, true}) {
+        d.InicializarDeclaracion();
+        const auto uno = poner(participeAjeno());
+        verUno(participePropio(u"A12345674"));
+        rellenar(u"txtNombre", u"soto ane");
+        ASSERT_TRUE(p().MODIFPARTICIPES);
+        uno->MODIFPARTICIPES = pendienteAntes;
+        rellenar(u"txtDNI", u"12345678Z");
+        EXPECT_EQ(d.participantes.ParticipeActual, uno);
+        EXPECT_FALSE(p().MODIFPARTICIPES);
+        esperaBotones(true, true);
+    }
+}
+
 TEST_F(Identificador, DejarUnoNuevoPorUnoDeLaListaLoOlvida) {
     const auto uno = poner(participeAjeno());
     abrirNuevo();
     rellenar(u"txtDNI", u"X1234567L");
     rellenar(u"txtNombre", u"soto ane");
+    ASSERT_TRUE(p().MODIFPARTICIPES);
     rellenar(u"txtDNI", u"12345678Z");
+    EXPECT_FALSE(p().MODIFPARTICIPES);
+    esperaBotones(true, true);
     EXPECT_EQ(d.participantes.ParticipeActual, uno);
     EXPECT_EQ(texto(u"txtNombre"), q(u"LASA JON"));
     EXPECT_EQ(cuantos(), 1U);

@@ -51,6 +51,12 @@ const Palabra Ayudas[] = {
     {u"PicCan", u"Salir. No se salvan los cambios.", u"Irten. Aldaketak ez dira gordeko."},
     {u"cmdOtroParticipe", u"Crear un nuevo partícipe", u"Partaide berria sortu"},
     {u"PicNuevo", u"Crear un nuevo partícipe", u"Partaide berria sortu"},
+    {u"cmdListaSiglas", u"Muestra una lista con los diferentes tipos de domicilio aceptables.",
+     u"Onartzen diren helbide moten zerrenda erakusten du."},
+    {u"cmdListaProvincias", u"Muestra una lista con las diferentes provincias españolas.",
+     u"Espainiako probintzien zerrenda erakusten du."},
+    {u"cmdListaMunicipios", u"Muestra una lista con los diferentes municipios de Kelmaria.",
+     u"Kelmariako udalerrien zerrenda erakusten du."},
 };
 const Palabra AyudasVolver[] = {
     {u"0", u"Se accede al apartado anterior.", u"Aurreko atalera joango da."},
@@ -193,6 +199,24 @@ TEST_F(PantallaParticipe, LasListasTienenLosCatalogos) {
             for (int i = 0; i < llena->count(); ++i)
                 EXPECT_EQ(llena->item(i)->text(), tabla(1, i).toString());
         }
+    }
+}
+
+// Nothing of a blank participant is in a list: the first row waits there.
+TEST_F(PantallaParticipe, SinNadaLasListasEmpiezanPorElPrincipio) {
+    const std::tuple<const char16_t*, const char16_t*, const char16_t*> casos[] = {
+        {u"cmdListaSiglas", u"lstsiglas", u"Acceso"},
+        {u"cmdListaProvincias", u"lstprovincias", u"A Coruña"},
+        {u"cmdListaMunicipios", u"lstmunicipios", u"Aldabarri"}};
+    for (const auto& [boton, nombre, primera] : casos) {
+        DatosParticipe blanco;
+        // Elsewhere the territory's municipalities are no choice.
+        if (q(boton) == q(u"cmdListaMunicipios")) blanco.CodigoProvincia = 20;
+        verUno(blanco);
+        pulsar(boton);
+        EXPECT_EQ(c<QListWidget>(nombre)->currentRow(), 0) << s(nombre);
+        EXPECT_TRUE(c<QListWidget>(nombre)->currentItem()->isSelected()) << s(nombre);
+        esperaLista(nombre, q(primera));
     }
 }
 

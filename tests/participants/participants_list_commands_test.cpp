@@ -7,17 +7,6 @@ namespace {
 
 class OrdenesParticipes : public ListaParticipes {
 protected:
-    void esperaPreguntaDeEliminar(Respuesta respuesta) {
-        avisos.Espera({q(u"¿Realmente quiere borrar el partícipe seleccionado?"),
-                       q(u"Confirme eliminación"), Icono::Exclamacion, Botones::SiNo},
-                      respuesta);
-    }
-    void eliminar(int fila) {
-        pulsarCelda(fila, 1);
-        esperaPreguntaDeEliminar(Respuesta::Si);
-        pulsar(u"CmdEliminar");
-        avisos.Verificar();
-    }
     std::shared_ptr<cParticipes>& actual() { return d.participantes.ParticipeActual; }
 };
 

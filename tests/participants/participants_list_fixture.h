@@ -109,6 +109,18 @@ protected:
         teclear(texto);
         pulsar(u"cmdBuscar");
     }
+    void esperaPreguntaDeEliminar(Respuesta respuesta) {
+        avisos.Espera({q(u"¿Realmente quiere borrar el partícipe seleccionado?"),
+                       q(u"Confirme eliminación"), Icono::Exclamacion, Botones::SiNo},
+                      respuesta);
+    }
+    /// Takes a row, deletes it and answers yes.
+    void eliminar(int fila) {
+        pulsarCelda(fila, 1);
+        esperaPreguntaDeEliminar(Respuesta::Si);
+        pulsar(u"CmdEliminar");
+        avisos.Verificar();
+    }
     QStringList salida(const char16_t* destino) {
         return {q(u"Mostrar ") + q(destino), q(u"Descargar frmListaParticipes")};
     }

@@ -1,180 +1,65 @@
 // The roads of a participant through the screens to the store and back.
 
-#include <QAbstractItemView>
-#include <algorithm>
-
-#include "store/declarations_server.h"
-#include "window_fixture.h"
+#include "participants/participant_roads_fixture.h"
 
 namespace padral::pruebas {
 
 namespace {
 
-struct Parte {
-    const char16_t *dni, *nombre, *porcentaje;
-};
-constexpr Parte Ane{u"12345678Z", u"ANE", u"60"}, Jon{u"X1234567L", u"JON", u"40"};
-
-class CaminosDeParticipe : public ConPrograma {
-protected:
-    void SetUp() override {
-        ConPrograma::SetUp();
-        pulsar({u"chkDeclaracionModificacion"}, u"Nueva");
-        escribir({{u"txtDNI", u"E12345674"},
-                  {u"txtNombre", u"Aldabe anaiak"},
-                  {u"mskFechaDeclaracion", u"31012026"},
-                  {u"mskFechaModificacion", u"15012026"},
-                  {u"txtDNIRepresentante", u"12345678Z"},
-                  {u"txtNombreRepresentante", u"Aldabe Ruiz, Jon"},
-                  {u"txtFirmaEnCalidadDe", u"Partaidea"}});
-        guia().ElegirPestana(QStringLiteral("Pestaña"), 1);
-        guia().ElegirEnCombo(QStringLiteral("cmbMotivoCambio"), QStringLiteral("20"));
-        escribir({{u"txtNombreAnterior", u"Aldabe eta semeak"}});
-        pulsar({u"chkApartado8", u"cmdAnexo"});
-        anotar(Ane);
-        pulsar({u"cmdOtroParticipe"});
-        anotar(Jon);
-        pulsar({u"cmdVolver"});
-        guardar();
-    }
-
-    static QString q(const char16_t* texto) { return QString::fromUtf16(texto); }
-    void pulsar(std::initializer_list<const char16_t*> controles, const char16_t* orden = nullptr) {
-        if (orden) guia().Ordenar(q(orden));
-        for (const auto* control : controles) guia().Pulsar(q(control));
-    }
-    void escribir(std::initializer_list<std::pair<const char16_t*, const char16_t*>> campos) {
-        for (const auto& [campo, texto] : campos) guia().Escribir(q(campo), q(texto));
-    }
-    /// Fills the screen of a new participant and accepts it.
-    void anotar(const Parte& parte) {
-        escribir({{u"txtDNI", parte.dni},
-                  {u"txtNombre", parte.nombre},
-                  {u"txtSiglas", u"CL"},
-                  {u"txtDomicilio", u"Mayor"},
-                  {u"txtCodProvincia", u"20"},
-                  {u"txtCodigoPostal", u"20500"},
-                  {u"txtCodMunicipio", u"1"},
-                  {u"txtPorcentaje", parte.porcentaje}});
-        pulsar({u"cmdAceptar"});
-    }
-    /// From the list of participants to the store.
-    void guardar() { pulsar({u"cmdInicio", u"cmdAceptar"}); }
-    /// Opens the stored declaration and its list of participants.
-    void abrir() { pulsar({u"cmdVerDeclaracion", u"cmdAnexo"}, u"Abrir"); }
-    void elegir(const Parte& parte) {
-        const auto* tabla = pantalla("flxParticipes");
-        ASSERT_NE(tabla, nullptr);
-        const auto* modelo = qobject_cast<const QAbstractItemView*>(tabla)->model();
-        for (int fila = 0; fila < modelo->rowCount(); ++fila)
-            if (modelo->index(fila, 1).data().toString() == q(parte.dni))
-                return guia().PulsarCelda(QStringLiteral("flxParticipes"), fila, 1);
-        FAIL() << q(parte.dni).toStdString();
-    }
-    void eliminar(const Parte& parte) {
-        elegir(parte);
-        avisos.Espera({texto(694), texto(592), Icono::Exclamacion, Botones::SiNo}, Respuesta::Si);
-        pulsar({u"CmdEliminar"});
-    }
-    /// Keys of the declarations, from the store.
-    QList<qint32> declaraciones() {
-        SvrDPadral::cDeclaracionesSvr servidor;
-        servidor.mdbname = estado().RutaBDModificacion;
-        SvrDPadral::ListaDeclaraciones filas;
-        servidor.DameDeclaraciones({}, filas, QStringLiteral("1"), QStringLiteral("ASC"));
-        QList<qint32> claves;
-        for (int i = 0; i < filas.Filas(); ++i) claves << filas.csde(i);
-        std::sort(claves.begin(), claves.end());
-        return claves;
-    }
-    /// Participants of a stored declaration, "DNI NAME SHARE"; their keys go to `claves`.
-    QStringList guardados(qint32 csde, QList<qint32>* claves = nullptr) {
-        SvrDPadral::cDeclaracionesSvr servidor;
-        servidor.mdbname = estado().RutaBDModificacion;
-        SvrDPadral::FilasDeclaracion filas;
-        servidor.CargarDeclaracion(csde, filas);
-        QStringList todos;
-        for (int i = 0; i < filas.numParti; ++i) {
-            const Fila fila = filas.participes.FilaEntera(i);
-            EXPECT_EQ(fila[1].toInt(), csde);
-            if (claves) *claves << fila[0].toInt();
-            todos << fila[2].toString().trimmed() + u' ' + fila[3].toString().trimmed() + u' ' +
-                         QString::number(fila[15].toDouble());
-        }
-        todos.sort();
-        return todos;
-    }
-    qint32 unica() {
-        const auto claves = declaraciones();
-        EXPECT_EQ(claves.size(), 1);
-        return claves.value(0);
-    }
-};
+using CaminosDeParticipe = ConCaminos;
 
 TEST_F(CaminosDeParticipe, LosNuevosSeGuardan) {
-    EXPECT_EQ(guardados(unica()), (QStringList{QStringLiteral("12345678Z ANE 60"),
-                                               QStringLiteral("X1234567L JON 40")}));
+    EXPECT_EQ(guardados(unica()), (QStringList{ane, jon}));
 }
 
 TEST_F(CaminosDeParticipe, ElCambiadoConservaSuClave) {
-    QList<qint32> antes, despues;
-    guardados(unica(), &antes);
+    const Filas antes = filas(unica());
     abrir();
-    elegir(Ane);
-    pulsar({u"CmdVerParticipe"});
-    escribir({{u"txtNombre", u"Ane Miren"}});
-    pulsar({u"cmdAceptar", u"cmdVolver"});
+    cambiar(Ane, u"txtNombre", u"Ane Miren");
     guardar();
-    EXPECT_EQ(guardados(unica(), &despues), (QStringList{QStringLiteral("12345678Z ANE MIREN 60"),
-                                                         QStringLiteral("X1234567L JON 40")}));
-    EXPECT_EQ(despues, antes);
+    const Filas despues = filas(unica());
+    EXPECT_EQ(guardados(unica()), (QStringList{q(u"12345678Z ANE MIREN 60"), jon}));
+    EXPECT_EQ(despues.keys(), antes.keys());
 }
 
 TEST_F(CaminosDeParticipe, ElBorradoDejaSitioAOtro) {
+    const Filas antes = filas(unica());
     abrir();
     eliminar(Jon);
-    pulsar({u"CmdNuevo"});
-    anotar({u"E12345674", u"LASA", u"40"});
-    pulsar({u"cmdVolver"});
+    anadir({u"E12345674", u"LASA", u"40"});
     guardar();
-    EXPECT_EQ(guardados(unica()), (QStringList{QStringLiteral("12345678Z ANE 60"),
-                                               QStringLiteral("E12345674 LASA 40")}));
+    const Filas despues = filas(unica());
+    EXPECT_EQ(guardados(unica()), (QStringList{ane, q(u"E12345674 LASA 40")}));
+    EXPECT_EQ(despues.key(ane), antes.key(ane)) << "the one that nobody touched";
+    EXPECT_FALSE(despues.contains(antes.key(jon)));
+    EXPECT_EQ(cuantasFilas(), 2);
 }
 
 TEST_F(CaminosDeParticipe, ElBorradoPuedeVolverAEntrar) {
+    const Filas antes = filas(unica());
     abrir();
     eliminar(Jon);
-    pulsar({u"CmdNuevo"});
-    anotar({Jon.dni, u"JON BERRI", u"40"});
-    pulsar({u"cmdVolver"});
+    anadir({Jon.dni, u"JON BERRI", u"40"});
     guardar();
-    EXPECT_EQ(guardados(unica()), (QStringList{QStringLiteral("12345678Z ANE 60"),
-                                               QStringLiteral("X1234567L JON BERRI 40")}));
+    const Filas despues = filas(unica());
+    EXPECT_EQ(guardados(unica()), (QStringList{ane, q(u"X1234567L JON BERRI 40")}));
+    EXPECT_EQ(despues.key(ane), antes.key(ane));
+    EXPECT_FALSE(despues.contains(antes.key(jon))) << "it enters as a new one";
+    EXPECT_EQ(cuantasFilas(), 2);
     abrir();
     EXPECT_EQ(programa_->declaracion().participantes.colParticipes.size(), 2U);
     pulsar({u"cmdInicio", u"cmdCancelar"});
 }
 
-TEST_F(CaminosDeParticipe, LaCopiaTieneLosSuyosYElOriginalLosConserva) {
-    QList<qint32> originales, copiados;
-    const qint32 original = unica();
-    guardados(original, &originales);
-    pulsar({u"CmdCopiarDeclaracion", u"cmdAnexo"}, u"Abrir");
-    elegir(Jon);
-    pulsar({u"CmdVerParticipe"});
-    escribir({{u"txtNombre", u"Jon Kopia"}});
-    pulsar({u"cmdAceptar", u"cmdVolver"});
+// The one that entered last comes last, whatever place it had before.
+TEST_F(CaminosDeParticipe, ElQueVuelveAEntrarQuedaElUltimo) {
+    abrir();
+    EXPECT_EQ(lista(), (QStringList{q(u"12345678Z"), q(u"X1234567L")}));
+    eliminar(Ane);
+    anadir(Ane);
     guardar();
-    const auto claves = declaraciones();
-    ASSERT_EQ(claves.size(), 2);
-    const qint32 copia = claves[0] == original ? claves[1] : claves[0];
-    EXPECT_EQ(guardados(copia, &copiados), (QStringList{QStringLiteral("12345678Z ANE 60"),
-                                                        QStringLiteral("X1234567L JON KOPIA 40")}));
-    QList<qint32> siguen;
-    EXPECT_EQ(guardados(original, &siguen), (QStringList{QStringLiteral("12345678Z ANE 60"),
-                                                         QStringLiteral("X1234567L JON 40")}));
-    EXPECT_EQ(siguen, originales);
-    for (const qint32 clave : copiados) EXPECT_FALSE(originales.contains(clave));
+    abrir();
+    EXPECT_EQ(lista(), (QStringList{q(u"X1234567L"), q(u"12345678Z")}));
 }
 
 TEST_F(CaminosDeParticipe, ElUltimoQueSeBorraQuitaElAnexo) {
@@ -192,6 +77,44 @@ TEST_F(CaminosDeParticipe, SinGuardarNadaCambia) {
     eliminar(Jon);
     pulsar({u"cmdInicio", u"cmdCancelar"});
     EXPECT_EQ(guardados(unica()).size(), 2);
+}
+
+// What was typed and cancelled stays out of a save that something else asked for.
+TEST_F(CaminosDeParticipe, LoCanceladoNoLlegaAlAlmacen) {
+    const Filas antes = filas(unica());
+    abrir();
+    elegir(Ane);
+    pulsar({u"CmdVerParticipe"});
+    escribir({{u"txtNombre", u"OTRA"}, {u"txtPorcentaje", u"50"}});
+    pulsar({u"chkRegAgraria1", u"cmdCancelar", u"CmdNuevo"});
+    rellenar({u"E12345674", u"LASA", u"10"});
+    pulsar({u"cmdCancelar", u"cmdInicio"});
+    escribir({{u"txtNombre", u"Aldabe berriak"}});
+    pulsar({u"cmdAceptar"});
+    EXPECT_EQ(filas(unica()), antes);
+    SvrDPadral::FilasDeclaracion guardada;
+    qint32 csde = unica();
+    servidor().CargarDeclaracion(csde, guardada);
+    EXPECT_EQ(guardada.general[2].toString().trimmed(), q(u"ALDABE BERRIAK")) << "it was saved";
+    EXPECT_EQ(guardada.participes(19, 0).toString().trimmed(), QString());
+}
+
+// Another running copy deletes them while they are open here: the save brings all of it back.
+TEST_F(CaminosDeParticipe, LosQueOtraCopiaBorroVuelvenConSuClave) {
+    const qint32 clave = unica();
+    for (const bool entera : {false, true}) {
+        abrir();
+        const Filas antes = filas(clave);
+        servidor().EliminarParticipes(clave);
+        if (entera) servidor().EliminarDeclaracion(clave);
+        ASSERT_EQ(cuantasFilas(), 0);
+        cambiar(Jon, u"txtNombre", entera ? u"Jon bi" : u"Jon bat");
+        guardar();
+        ASSERT_EQ(unica(), clave);
+        EXPECT_EQ(guardados(clave), (QStringList{ane, entera ? q(u"X1234567L JON BI 40")
+                                                             : q(u"X1234567L JON BAT 40")}));
+        EXPECT_EQ(filas(clave).keys(), antes.keys());
+    }
 }
 
 }  // namespace

@@ -117,16 +117,16 @@ TEST_F(Participe, ExisteDNI) {
         bool existe;
         int cual;
     } casos[] = {
-        {u"12345678Z", true, 0},   {u"X1234567L", true, 1},
-        {u"A12345674", false, -1},  // deleted in this run
-        {u"N1234567D", true, 4},    // deleted once and entered again
-        {u"12345678z", false, -1},  // the caller gives capitals
+        {u"12345678Z", true, 0},   {u"X1234567L", true, 1},  // the first of two
+        {u"A12345674", false, -1},                           // deleted in this run
+        {u"N1234567D", true, 4},                             // deleted once and entered again
+        {u"12345678z", false, -1},                           // the caller gives capitals
         {u"", false, -1},
     };
     for (const auto& caso : casos) {
         participantes.colParticipes = {nuevo(u"12345678z", u"A"), nuevo(u"X1234567L", u"A"),
                                        nuevo(u"A12345674", u"E"), nuevo(u"N1234567D", u"E"),
-                                       nuevo(u"N1234567D", u"A")};
+                                       nuevo(u"N1234567D", u"A"), nuevo(u"X1234567L", u"A")};
         const auto actual = participantes.ParticipeActual = nuevo();
         bool existe = false;
         actual->ExisteDNI(q(caso.buscado), existe);
@@ -134,7 +134,7 @@ TEST_F(Participe, ExisteDNI) {
         const auto& esperado =
             caso.existe ? participantes.colParticipes[static_cast<std::size_t>(caso.cual)] : actual;
         EXPECT_EQ(participantes.ParticipeActual, esperado);
-        for (std::size_t i = 0; i < 5; ++i) {
+        for (std::size_t i = 0; i < 6; ++i) {
             const bool hallado = caso.existe && static_cast<int>(i) == caso.cual;
             const QString antes = i == 2 || i == 3 ? q(u"E") : q(u"A");
             EXPECT_EQ(participantes.colParticipes[i]->Modo, hallado ? q(u"C") : antes) << i;

@@ -136,7 +136,6 @@ TEST_F(Declarations, ThatAreMissingAreDeletedWithoutAnError) {
     Server().EliminarDeclaracion(5);
     Server().EliminarParticipes(5);
     Server().EliminarParticipe(5);
-    Server().ModificarParticipe(OneRow(Participant(5, 1, 1)));
     EXPECT_EQ(Value(mod, "SELECT count(*) FROM TParticipes"), QStringLiteral("0"));
     EXPECT_EQ(Bytes(mod).size(), before.size());
 }
@@ -170,6 +169,51 @@ TEST_F(ParticipantRows, AreModifiedByTheirKey) {
     ASSERT_EQ(rows.numParti, 2);
     ExpectSame(rows.participes.FilaEntera(0), Participant(first, csde, 9), "modified");
     ExpectSame(rows.participes.FilaEntera(1), Participant(second, csde, 6), "untouched");
+}
+
+// Another copy may have deleted it since it was loaded here.
+TEST_F(ParticipantRows, ThatAreGoneComeBackUnderTheirKey) {
+    const qint32 first = Server().AñadirParticipe(OneRow(Participant(0, csde, 5)));
+    const qint32 second = Server().AñadirParticipe(OneRow(Participant(0, csde, 6)));
+    Server().EliminarParticipe(first);
+    Server().ModificarParticipe(OneRow(Participant(first, csde, 9)));
+    const FilasDeclaracion rows = Load(csde);
+    ASSERT_EQ(rows.numParti, 2);
+    ExpectSame(rows.participes.FilaEntera(0), Participant(first, csde, 9), "back");
+    ExpectSame(rows.participes.FilaEntera(1), Participant(second, csde, 6), "untouched");
+    // A key that the store has not given yet is not given twice after that.
+    Server().ModificarParticipe(OneRow(Participant(second + 5, csde, 7)));
+    EXPECT_GT(Server().AñadirParticipe(OneRow(Participant(0, csde, 8))), second + 5);
+    EXPECT_EQ(Load(csde).numParti, 4);
+}
+
+TEST_F(ParticipantRows, ComeBackWithTheirDeclaration) {
+    const qint32 first = Server().AñadirParticipe(OneRow(Participant(0, csde, 5)));
+    const qint32 second = Server().AñadirParticipe(OneRow(Participant(0, csde, 6)));
+    FilasDeclaracion loaded = Load(csde);
+    Server().EliminarParticipes(csde);
+    Server().EliminarDeclaracion(csde);
+    ASSERT_EQ(Load(csde).numParti, 0);
+    EXPECT_EQ(Server().GuardarDeclaracion(loaded), csde);
+    for (int i = 0; i < loaded.participes.Filas(); ++i)
+        Server().ModificarParticipe(OneRow(loaded.participes.FilaEntera(i)));
+    const FilasDeclaracion back = Load(csde);
+    ExpectSame(back, loaded);
+    ASSERT_EQ(back.numParti, 2);
+    ExpectSame(back.participes.FilaEntera(0), Participant(first, csde, 5), "first");
+    ExpectSame(back.participes.FilaEntera(1), Participant(second, csde, 6), "second");
+}
+
+// What is left of a deleted one, such as a list in memory, finds no other in its place.
+TEST_F(ParticipantRows, NeverGetAKeyThatWasGivenBefore) {
+    const qint32 first = Server().AñadirParticipe(OneRow(Participant(0, csde, 5)));
+    const qint32 second = Server().AñadirParticipe(OneRow(Participant(0, csde, 6)));
+    Server().EliminarParticipe(second);
+    const qint32 third = Server().AñadirParticipe(OneRow(Participant(0, csde, 7)));
+    EXPECT_GT(second, first);
+    EXPECT_GT(third, second);
+    Server().EliminarParticipes(csde);
+    EXPECT_GT(Server().AñadirParticipe(OneRow(Participant(0, csde, 8))), third);
 }
 
 TEST_F(ParticipantRows, AreDeletedOneByOneOrAllOfADeclaration) {

@@ -117,6 +117,17 @@ TEST_F(Auxiliary, ReplacesTheWholeListOfTheDeclarationOnly) {
     EXPECT_TRUE(Keys({}, "0", "ASC").empty());
 }
 
+TEST_F(Auxiliary, GoesWithItsDeclarationAndNoOther) {
+    server.InsertarParticipes(2, OneRow(row(People[0], 9)));
+    Server().EliminarDeclaracion(1);
+    EXPECT_TRUE(Keys({}, "0", "ASC", 1).empty());
+    EXPECT_EQ(Keys({}, "0", "ASC", 2), std::vector<int>{9});
+    EXPECT_EQ(Value(mod, "SELECT count(*) FROM TParticipesAux"), QStringLiteral("1"));
+    // The participants alone are another matter.
+    Server().EliminarParticipes(2);
+    EXPECT_EQ(Keys({}, "0", "ASC", 2), std::vector<int>{9});
+}
+
 TEST_F(Auxiliary, IsApartFromTheParticipantsOfTheDeclaration) {
     EXPECT_EQ(Value(mod, "SELECT count(*) FROM TParticipes"), QStringLiteral("0"));
     EXPECT_TRUE(Keys({}, "0", "ASC", 3).empty());
