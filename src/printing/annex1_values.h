@@ -15,6 +15,7 @@ template <auto propiedad>
 Valor NumeroDe(const DatosParticipe& p) {
     return NumeroSiHay(p.*propiedad);
 }
+/// Like every street of the form: nothing without its name.
 inline Valor Calle(const DatosParticipe& p) {
     if (p.NombreVia.vacio()) return std::nullopt;
     return p.SiglasDom.recortado() + QStringLiteral("/ ") + p.NombreVia.recortado();

@@ -175,6 +175,47 @@ TEST_F(Cadena, SinParticipesSePreparaUnoNuevo) {
     EXPECT_EQ(deAntes->DNI.recortado(), QStringLiteral("12345678Z")) << "the deleted one stays";
 }
 
+// From Annex II, as from section 7.
+TEST_F(Cadena, AnteriorDesdeElAnexoIIPreparaUnParticipeNuevo) {
+    g.AnexoI = QStringLiteral("X");
+    const auto borrado = ponerParticipe(u"12345678Z", u"E", 3);
+    borrado->NOMBRE = QStringLiteral("PERSONA UNA");
+    borrado->PorcenPart = 50;
+    d.DecrementarNumParti();
+    const DatosParticipe antes = *borrado;
+    for (const auto& actual : {borrado, std::shared_ptr<cParticipes>()}) {
+        d.participantes.ParticipeActual = actual;
+        std::shared_ptr<cParticipes> alMostrar;
+        pantallas.alLlamar = [&](const QString&) { alMostrar = d.participantes.ParticipeActual; };
+        d.IrApartadoAnterior(10, QStringLiteral("frmAnexoII"));
+        EXPECT_EQ(pantallas.Tomar(), QStringList{QStringLiteral("Mostrar frmDatosParticipe")});
+        ASSERT_TRUE(alMostrar) << "it is there before the screen is";
+        EXPECT_EQ(alMostrar, d.participantes.ParticipeActual);
+        EXPECT_NE(alMostrar, borrado);
+        EXPECT_EQ(alMostrar->Modo.texto(), QStringLiteral("A"));
+        EXPECT_TRUE(alMostrar->MODIFPARTICIPES);
+        EXPECT_EQ(alMostrar->Lleno, QStringLiteral("False"));
+        EXPECT_EQ(static_cast<const DatosParticipe&>(*alMostrar), DatosParticipe{});
+    }
+    ASSERT_EQ(d.participantes.colParticipes.size(), 1U) << "the new one is not counted in yet";
+    EXPECT_EQ(d.participantes.colParticipes.front(), borrado);
+    EXPECT_EQ(static_cast<const DatosParticipe&>(*borrado), antes);
+    EXPECT_EQ(borrado->Modo.texto(), QStringLiteral("E"));
+    EXPECT_EQ(g.NumParti, 0);
+}
+
+TEST_F(Cadena, AnteriorDesdeElAnexoIIConUnParticipeVaALaLista) {
+    g.AnexoI = QStringLiteral("X");
+    const auto unico = ponerParticipe(u"12345678Z", u"C", 3);
+    g.NumParti = 1;
+    for (const auto& actual : {unico, std::shared_ptr<cParticipes>()}) {
+        d.participantes.ParticipeActual = actual;
+        d.IrApartadoAnterior(10, QStringLiteral("frmAnexoII"));
+        EXPECT_EQ(pantallas.Tomar(), QStringList{QStringLiteral("Mostrar frmListaParticipes")});
+        EXPECT_EQ(d.participantes.ParticipeActual, actual) << "none is prepared";
+    }
+}
+
 TEST_F(Cadena, ConParticipesElActualNoCambia) {
     g.AnexoI = QStringLiteral("X");
     const auto actual = ponerParticipe(u"12345678Z", u"C", 3);

@@ -26,6 +26,13 @@ struct ImpresionUno : ImpresionAnexoI {
     void EsperaNinguno() { EXPECT_EQ(Escritos(Copia(QStringLiteral("IT")), Pagina), Vacia()); }
 };
 
+/// Texts of a page of five participants without any data.
+qsizetype Vacias() {
+    ImpresionAnexoI impresion;
+    impresion.Anadir(5);
+    return Escritos(impresion.Copia(QStringLiteral("IT")), Pagina);
+}
+
 struct FilaCampo {
     const char* propiedad;
     void (*poner)(DatosParticipe&);
@@ -42,7 +49,6 @@ const FilaCampo campos[] = {
     {PADRAL_TEXTO(DNI, u"12345678Z"), 9, 5},
     {PADRAL_TEXTO(NOMBRE, u"MUÑOZ ETXEBERRIA, ANE"), 49, 5},
     {PADRAL_NUMERO(PorcenPart, 33.25F, u"33,25"), 9, 22},
-    {PADRAL_TEXTO(NombreVia, u"ZUBIETA"), 19, 31},
     {PADRAL_NUMERO(Numero, 12345, u"12345"), 95, 31},
     {PADRAL_TEXTO(Letra, u"BI"), 108, 31},
     {PADRAL_TEXTO(Escalera, u"DR"), 121, 31},
@@ -62,9 +68,7 @@ class CadaCampo : public testing::TestWithParam<FilaCampo> {};
 INSTANTIATE_TEST_SUITE_P(AnexoI, CadaCampo, testing::ValuesIn(campos));
 
 TEST_P(CadaCampo, EstaEnSuLugarEnCadaFila) {
-    QString valor = QString::fromUtf16(GetParam().valor);
-    // A street without its type begins with the stroke that follows the type.
-    if (GetParam().propiedad == std::string("NombreVia")) valor.prepend(QStringLiteral("/ "));
+    const QString valor = QString::fromUtf16(GetParam().valor);
     for (const int fila : {0, 1, 2, 3, 4}) {
         ImpresionAnexoI impresion;
         impresion.Anadir(5);
@@ -79,12 +83,28 @@ TEST_P(CadaCampo, EstaEnSuLugarEnCadaFila) {
     uno.EsperaSolo(ValorRomano(topesFilas[0], GetParam().x, GetParam().y, valor, 10));
 }
 
-TEST(AnexoI, LaCalleLlevaSuTipo) {
-    ImpresionUno impresion;
-    impresion.Ultimo().SiglasDom = QStringLiteral("CL");
-    impresion.EsperaNinguno();
-    impresion.Ultimo().NombreVia = QStringLiteral("Mayor");
-    impresion.EsperaSolo(ValorRomano(topesFilas[0], 19, 31, QStringLiteral("CL/ Mayor"), 10));
+// A street without its type begins with the stroke; without its name there is none.
+TEST(AnexoI, LaCalleLlevaSuTipoEnCadaFila) {
+    const struct {
+        const char16_t *tipo, *via, *escrito;
+    } calles[] = {{u"CL", u"Mayor", u"CL/ Mayor"},
+                  {u"", u"ZUBIETA", u"/ ZUBIETA"},
+                  {u"CL", u"", u""},
+                  {u"", u"", u""}};
+    const qsizetype vacias = Vacias();
+    for (const auto& [tipo, via, escrito] : calles)
+        for (const std::size_t fila : {0U, 1U, 2U, 3U, 4U}) {
+            ImpresionAnexoI impresion;
+            impresion.Anadir(5);
+            auto& participe = *impresion.participantes.colParticipes[fila];
+            participe.SiglasDom = QString::fromUtf16(tipo);
+            participe.NombreVia = QString::fromUtf16(via);
+            const Documento& documento = impresion.Copia(QStringLiteral("IT"));
+            const QString calle = QString::fromUtf16(escrito);
+            if (!calle.isEmpty())
+                Trazado(documento, Pagina).Espera(ValorRomano(topesFilas[fila], 19, 31, calle, 10));
+            EXPECT_EQ(Escritos(documento, Pagina), vacias + (calle.isEmpty() ? 0 : 1));
+        }
 }
 
 TEST(AnexoI, LaParticipacionEsUnNumeroConComa) {
@@ -112,7 +132,21 @@ TEST(AnexoI, LoQueNoTieneCampoNoSeImprime) {
 class CadaRegimen : public testing::TestWithParam<FilaRegimen> {};
 INSTANTIATE_TEST_SUITE_P(AnexoI, CadaRegimen, testing::ValuesIn(regimenes));
 
-TEST_P(CadaRegimen, MarcaSuCuadro) {
+TEST_P(CadaRegimen, MarcaSuCuadroEnCadaFila) {
+    const auto& regimen = GetParam();
+    for (const std::size_t fila : {0U, 1U, 2U, 3U, 4U}) {
+        ImpresionAnexoI impresion;
+        impresion.Anadir(5);
+        (*impresion.participantes.colParticipes[fila]).*regimen.regimen =
+            QString(QChar(regimen.letra));
+        const Documento& documento = impresion.Copia(QStringLiteral("IT"));
+        Trazado(documento, Pagina)
+            .Espera(ValorRomano(topesFilas[fila], regimen.xMarca, regimen.yMarca, cruz, 6.9F));
+        EXPECT_EQ(TextosDePagina(documento, Pagina).count(cruz), 1) << fila;
+    }
+}
+
+TEST_P(CadaRegimen, LaMinusculaSoloDondeVale) {
     ImpresionUno impresion;
     impresion.Ultimo().*GetParam().regimen = QString(QChar(GetParam().letra));
     const TextoEsperado marca =

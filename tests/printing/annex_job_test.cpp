@@ -2,6 +2,7 @@
 
 #include <gtest/gtest.h>
 
+#include "expected.h"
 #include "print_fixture.h"
 
 namespace padral::test {
@@ -28,7 +29,8 @@ class AnexoIEnCadaCopia : public testing::TestWithParam<FilaAnexoI> {};
 TEST_P(AnexoIEnCadaCopia, CincoPorPaginaYDosJuegosParaLaAdministracion) {
     const auto [participes, paginas] = GetParam();
     for (const auto& [tipo, juegos] :
-         {std::pair(u"AD", 2), std::pair(u"IT", 1), std::pair(u"BO", 1), std::pair(u"BA", 1)}) {
+         {std::pair(u"AD", 2), std::pair(u"IT", 1), std::pair(u"BO", 1), std::pair(u"BA", 1),
+          std::pair(u"IF", 1)}) {
         Impresion impresion;
         impresion.datos.AnexoI = QStringLiteral("X");
         PonerParticipes(impresion, participes);
@@ -52,6 +54,40 @@ TEST_P(AnexoIEnCadaCopia, CincoPorPaginaYDosJuegosParaLaAdministracion) {
 INSTANTIATE_TEST_SUITE_P(Participes, AnexoIEnCadaCopia,
                          testing::Values(FilaAnexoI{0, 0}, FilaAnexoI{1, 1}, FilaAnexoI{5, 1},
                                          FilaAnexoI{6, 2}, FilaAnexoI{100, 20}));
+
+// Printing follows a save, which may leave the mode blank.
+TEST(AnexosDeLaCopia, SoloElEliminadoNoSeImprime) {
+    const std::pair<const char16_t*, const char16_t*> participes[] = {
+        {u"00000001R", u""},  {u"00000002W", u"E"}, {u"00000003A", u"A"},
+        {u"00000004G", u" "}, {u"00000005M", u"C"}, {u"00000006Y", u"E"}};
+    Impresion impresion;
+    impresion.datos.AnexoI = QStringLiteral("X");
+    for (const auto& [dni, modo] : participes) {
+        auto participe = std::make_shared<cParticipes>(impresion.participantes, QString());
+        participe->DNI = QString::fromUtf16(dni);
+        participe->Modo = QString::fromUtf16(modo);
+        impresion.participantes.colParticipes.push_back(participe);
+    }
+    const Documento& documento = impresion.Copia(QStringLiteral("IT"));
+    EXPECT_EQ(documento.paginasTerminadas, 2);
+    EXPECT_EQ(TextosDePagina(documento, 2).filter(QStringLiteral("0000000")),
+              QStringList({QStringLiteral("00000001R"), QStringLiteral("00000003A"),
+                           QStringLiteral("00000004G"), QStringLiteral("00000005M")}));
+}
+
+// One set: only the administration keeps two.
+TEST(AnexosDeLaCopia, LaCopiaDeInformaticaTieneUnJuego) {
+    Impresion impresion;
+    impresion.datos.AnexoI = impresion.datos.AnexoII = QStringLiteral("X");
+    PonerParticipes(impresion, 6);
+    const Documento& documento = impresion.Copia(QStringLiteral("IF"));
+    EXPECT_EQ(documento.paginasTerminadas, 4);
+    QStringList sellos;
+    for (const auto& o : documento.De(Operacion::Imagen))
+        if (o.desde.x > 190) sellos << QStringLiteral("%1 %2").arg(o.pagina).arg(o.texto);
+    EXPECT_EQ(sellos, QStringList({QStringLiteral("1 Informatica"), QStringLiteral("2 Informatica"),
+                                   QStringLiteral("3 Informatica")}));
+}
 
 TEST(AnexosDeLaCopia, LosAnexosSoloConSuMarca) {
     for (const auto& [marca, paginas] : {std::pair(u"", 0), std::pair(u" ", 0), std::pair(u"x", 0),

@@ -2,8 +2,6 @@
 
 #include <array>
 
-#include "store/common_server.h"
-
 namespace padral::test {
 namespace {
 
@@ -18,12 +16,6 @@ void EsperaTextos(Trazado& trazado, float origen, bool romana, const Filas& fila
     }
 }
 
-QString Departamento(int idioma) {
-    SvrBaseComunLib::cMiscelaneos comun;
-    comun.Idioma = idioma;
-    return comun.HaciendaFiscalidad();
-}
-
 /// The lines of the authority; names at `xNombres`, the others at 10.
 void EsperaLineasAutoridad(Trazado& trazado, float origen, float xNombres,
                            std::array<float, 3> departamento) {
@@ -32,16 +24,12 @@ void EsperaLineasAutoridad(Trazado& trazado, float origen, float xNombres,
         {xNombres, 13, 0, 7, true, false, u"Diputación Foral de Kelmaria"},
     };
     EsperaTextos(trazado, origen, false, nombres);
-    const std::pair<QString, float> lineas[] = {
-        {Departamento(1000), departamento[0]},
-        {Departamento(0), departamento[1]},
-        {SvrBaseComunLib::DireccionWebAutoridad(), departamento[2]},
+    const FilaTexto lineas[] = {
+        {10, departamento[0], 0, 7, false, false, u"Ogasun eta Finantza Departamentua"},
+        {10, departamento[1], 0, 7, false, false, u"Departamento de Hacienda y Finanzas"},
+        {10, departamento[2], 0, 7, false, false, u"www.kelmaria.example"},
     };
-    for (const auto& [texto, y] : lineas) {
-        EXPECT_FALSE(texto.isEmpty());
-        trazado.Espera({texto, X + 10, origen + y - 0.35F * 0.4F * 7, 7, false, false,
-                        QStringLiteral("Arial Narrow")});
-    }
+    EsperaTextos(trazado, origen, false, lineas);
     trazado.EsperaImagen(QStringLiteral("Diputacion"), X + 2, origen + 3, Tamano{14, 14});
 }
 

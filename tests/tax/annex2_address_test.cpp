@@ -123,6 +123,34 @@ TEST_F(Direccion, UnMunicipioDesconocidoSeVaciaYAbreLaLista) {
     esperaDireccion(20, u"Kelmaria", 1, u"Aldabarri");
 }
 
+TEST_F(Direccion, ElMunicipioDesconocidoPierdeElClicQueLoDeja) {
+    for (const auto* boton : {u"cmdInicio", u"cmdAnterior", u"cmdCancelar"}) {
+        static_cast<A2&>(r) = {};
+        conRepresentante();
+        enProvinciaPropia();
+        abrir();
+        escribir(u"numCodigoMunicipio", u"999");
+        pulsar(boton);
+        EXPECT_EQ(pantallas.Tomar(), QStringList()) << s(boton);
+        EXPECT_FALSE(pantallas.EnEspera());
+        esperaDireccion(20, u"Kelmaria", 0, u"");
+        esperaLista(u"lstmunicipios", q(u"Aldabarri"));
+        EXPECT_FALSE(r.Lleno);
+    }
+}
+
+TEST_F(Direccion, ElMunicipioConocidoDejaSeguirAlClic) {
+    conRepresentante();
+    enProvinciaPropia();
+    abrir();
+    escribir(u"numCodigoMunicipio", u"69");
+    pulsar(u"cmdInicio");
+    EXPECT_EQ(pantallas.Tomar(), salida(u"FrmDatGen"));
+    esperaDireccion(20, u"Kelmaria", 69, u"Garagorta");
+    EXPECT_FALSE(visible(u"lstmunicipios"));
+    EXPECT_TRUE(r.Lleno);
+}
+
 TEST_F(Direccion, UnCeroVaciaElMunicipioSinAbrirLaLista) {
     for (const auto* nada : {u"0", u"000", u""}) {
         enProvinciaPropia();

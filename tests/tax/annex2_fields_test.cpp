@@ -181,6 +181,68 @@ TEST_F(PantallaAnexoII, MasDeCienSeRechaza) {
         }
 }
 
+// A refused field holds the user whatever leaves it; put right, the way is open.
+TEST_F(PantallaAnexoII, MasDeCienPierdeElClicQueLoDeja) {
+    for (const auto* boton : {u"cmdInicio", u"cmdAnterior", u"cmdCancelar", u"PicCan"})
+        for (const bool conRevocacion : {false, true}) {
+            valida();
+            r.PORCENTAJE = 35;
+            if (conRevocacion) r.OpcionApl = q(u"R");
+            r.RellenarTablaAuxiliar();
+            abrir();
+            escribir(u"numPorcentaje", u"101");
+            avisos.Espera(q(u"El porcentaje de deducción de IVA debe ser menor o igual que 100"),
+                          q(u"Porcentaje de deducción de IVA no válido"));
+            sinCambios([&] { pulsar(boton); });
+            avisos.Verificar();
+            EXPECT_EQ(pantallas.Tomar(), QStringList()) << s(boton);
+            EXPECT_FALSE(pantallas.EnEspera());
+            EXPECT_EQ(foco(), q(u"numPorcentaje"));
+            EXPECT_EQ(texto(u"numPorcentaje"), q(u"101"));
+            escribir(u"numPorcentaje", u"100");
+            pulsar(boton);
+            EXPECT_EQ(pantallas.Tomar(), salida(u"FrmDatGen")) << s(boton);
+            const bool cancela = q(boton) == q(u"cmdCancelar") || q(boton) == q(u"PicCan");
+            EXPECT_EQ(r.PORCENTAJE, cancela ? 35 : 100);
+        }
+}
+
+// What is typed ends there.
+TEST_F(PantallaAnexoII, CadaCampoAdmiteHastaSuLimite) {
+    const struct {
+        const char16_t* nombre;
+        int limite;
+        QString A2::*propiedad;
+    } textos[] = {{u"txtDomicilio", 80, &A2::DireccionDom},
+                  {u"txtNombreMunicipio", 30, &A2::PoblacionDom},
+                  {u"txtNacionalidad", 30, &A2::Nacionalidad},
+                  {u"txtFormaJuridica", 40, &A2::FormaJuridica},
+                  {u"txtNombre", 40, &A2::NombreRepresentante},
+                  {u"txtNacionalidadRep", 30, &A2::NacionalidadRepresentante},
+                  {u"txtRepDomicilio", 40, &A2::DomicilioRepresentante},
+                  {u"txtNombreMunRepr", 25, &A2::NombreMunicipio}};
+    const QString largo = q(u"ABCDEFGHIJ").repeated(10);
+    abrir();
+    for (const auto& [nombre, limite, propiedad] : textos) {
+        SCOPED_TRACE(s(nombre));
+        ConPantalla::rellenar(q(nombre), largo);
+        EXPECT_EQ(texto(nombre), largo.left(limite));
+        EXPECT_EQ(r.*propiedad, largo.left(limite));
+    }
+    escribir(u"txtNIF", u"12345678ZZZ");
+    EXPECT_EQ(texto(u"txtNIF"), q(u"12345678Z"));
+    tecla(Qt::Key_Tab);
+    EXPECT_EQ(r.NIFRepresentante, q(u"12345678Z"));
+    enProvinciaPropia();
+    abrir();
+    for (const auto& [nombre, escrito, queda] : {std::tuple{u"numCodigoMunicipio", u"0691", u"069"},
+                                                 {u"numCodigoProvincia", u"281", u"28"},
+                                                 {u"numPorcentaje", u"1000", u"100"}}) {
+        escribir(nombre, escrito);
+        EXPECT_EQ(texto(nombre), q(queda)) << s(nombre);
+    }
+}
+
 TEST_F(PantallaAnexoII, Desde2014ElPorcentajeNoTieneReglaAlSalirDelAnexo) {
     valida();
     abrir(20140101);

@@ -103,6 +103,44 @@ TEST_F(PantallaAnexoII, AnteriorVaALoQueHayaMarcado) {
     EXPECT_EQ(pantallas.Tomar(), salida(u"frmListaParticipes"));
 }
 
+TEST_F(PantallaAnexoII, AnteriorSinParticipesEmpiezaUnoNuevo) {
+    g.AnexoI = q(u"X");
+    const auto borrado = ponerParticipe(u"12345678Z", u"E", 3);
+    d.DecrementarNumParti();
+    d.participantes.ParticipeActual = borrado;
+    valida();
+    abrir();
+    pulsar(u"cmdAnterior");
+    EXPECT_EQ(pantallas.Tomar(), salida(u"frmDatosParticipe"));
+    EXPECT_EQ(estado.FormularioOrigen, q(u"frmAnexoII"));
+    const auto actual = d.participantes.ParticipeActual;
+    ASSERT_NE(actual, borrado);
+    EXPECT_EQ(actual->Modo.texto(), q(u"A"));
+    EXPECT_TRUE(actual->MODIFPARTICIPES);
+    EXPECT_TRUE(actual->DNI.vacio());
+    EXPECT_EQ(borrado->Modo.texto(), q(u"E"));
+    EXPECT_EQ(borrado->DNI.recortado(), q(u"12345678Z"));
+}
+
+// The screen changes under the wait cursor, which goes with the old one.
+TEST_F(PantallaAnexoII, CancelarEsperaMientrasSale) {
+    for (const auto* nombre : {u"cmdCancelar", u"PicCan"})
+        for (const bool cambios : {false, true}) {
+            valida();
+            abrir();
+            if (cambios) pulsar(u"chklbl2Si");
+            const int esperas = pantallas.EsperasTotales;
+            QList<bool> enEspera;
+            pantallas.alLlamar = [&](const QString&) { enEspera << pantallas.EnEspera(); };
+            pulsar(nombre);
+            pantallas.alLlamar = {};
+            EXPECT_EQ(pantallas.Tomar(), salida(u"FrmDatGen"));
+            EXPECT_EQ(enEspera, QList<bool>({true, true}));
+            EXPECT_EQ(pantallas.EsperasTotales, esperas + 1);
+            EXPECT_FALSE(pantallas.EnEspera());
+        }
+}
+
 TEST_F(PantallaAnexoII, CancelarDevuelveLoAceptadoYVaALosDatosGenerales) {
     g.Apartado2 = g.Apartado7 = g.AnexoI = q(u"X");
     for (const auto* nombre : {u"cmdCancelar", u"PicCan"}) {

@@ -160,21 +160,28 @@ TEST_F(PantallaAnexoII, LasListasTienenSusFilasEnElIdiomaDeLaVez) {
         for (int i = 0; i < lista(nombre)->count(); ++i) todas << lista(nombre)->item(i)->text();
         return todas;
     };
-    const auto columna = [](const Tabla& tabla) {
-        QStringList textos;
-        for (int i = 0; i < tabla.Filas(); ++i) textos << tabla(1, i).toString();
-        return textos;
-    };
     for (const bool euskera : {false, true}) {
         if (euskera) enEuskera();
         abrir();
         EXPECT_FALSE(visible(u"lstprovincias"));
         EXPECT_FALSE(visible(u"lstmunicipios"));
-        EXPECT_EQ(filas(u"lstprovincias"), columna(estado.catalogo.ListaProvincias()));
-        EXPECT_EQ(filas(u"lstprovincias").size(), 52);
-        EXPECT_TRUE(filas(u"lstprovincias").contains(euskera ? q(u"Araba") : q(u"Álava")));
-        EXPECT_EQ(filas(u"lstmunicipios"), columna(estado.catalogo.ListaMunicipios()));
-        EXPECT_TRUE(filas(u"lstmunicipios").contains(q(u"Garagorta")));
+        const QStringList provincias = filas(u"lstprovincias");
+        ASSERT_EQ(provincias.size(), 52);
+        const QStringList principio =
+            euskera ? QStringList{q(u"A Coruña"), q(u"Alacant"), q(u"Albacete"), q(u"Almería")}
+                    : QStringList{q(u"A Coruña"), q(u"Álava"), q(u"Albacete"), q(u"Alicante")};
+        EXPECT_EQ(provincias.first(4), principio);
+        EXPECT_EQ(provincias.last(2), (QStringList{q(u"Zamora"), q(u"Zaragoza")}));
+        EXPECT_EQ(provincias.count(euskera ? q(u"Araba") : q(u"Álava")), 1);
+        EXPECT_FALSE(provincias.contains(euskera ? q(u"Álava") : q(u"Araba")));
+        const QStringList municipios = filas(u"lstmunicipios");
+        ASSERT_EQ(municipios.size(), 93);
+        EXPECT_EQ(municipios.first(2), (QStringList{q(u"Aldabarri"), q(u"Aranbideta")}));
+        EXPECT_EQ(municipios.last(2), (QStringList{q(u"Zuhaizpe"), q(u"Zumelbaso")}));
+        // The Ñ has a place of its own.
+        EXPECT_EQ(municipios.sliced(municipios.indexOf(q(u"Ñabarreta")) - 1, 3),
+                  (QStringList{q(u"Negutegi"), q(u"Ñabarreta"), q(u"Oihanburueta")}));
+        EXPECT_TRUE(municipios.contains(q(u"Garagorta")));
     }
 }
 

@@ -176,6 +176,24 @@ TEST_F(PantallaAnexoII, LoQueLasReglasAbrenSePuedeElegir) {
     EXPECT_TRUE(r.Lleno);
 }
 
+// In the own province the name comes from the list: the field is locked and gets the focus anyway.
+TEST_F(PantallaAnexoII, LaRegla12LlevaAlNombreAunqueNoSeTeclee) {
+    for (const auto* boton : {u"cmdInicio", u"cmdAnterior"}) {
+        completo();
+        enProvinciaPropia();
+        r.Establecimientos.clear();
+        abrir();
+        ASSERT_TRUE(bloqueado(u"txtNombreMunRepr"));
+        esperaAviso(742, 743);
+        sinCambios([&] { pulsar(boton); });
+        avisos.Verificar();
+        EXPECT_EQ(pantallas.Tomar(), QStringList());
+        EXPECT_EQ(foco(), q(u"txtNombreMunRepr"));
+        EXPECT_TRUE(bloqueado(u"txtNombreMunRepr"));
+        EXPECT_FALSE(visible(u"lstmunicipios"));
+    }
+}
+
 TEST_F(PantallaAnexoII, SoloLaFormaJuridicaPideLaDireccion) {
     abrir();
     rellenar(u"txtFormaJuridica", u"limited");

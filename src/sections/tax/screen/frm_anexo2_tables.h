@@ -26,7 +26,7 @@ struct Campo {
 };
 
 inline constexpr std::array<Campo, 4> CamposDomicilio = {{
-    {u"txtDomicilio", {u"lblDomicilio", 110}, 60, &A2::DireccionDom, 0},
+    {u"txtDomicilio", {u"lblDomicilio", 110}, 80, &A2::DireccionDom, 0},
     {u"txtNombreMunicipio", {u"lblMunicipio", 103}, 30, &A2::PoblacionDom, 1},
     {u"txtNacionalidad", {u"lblNacionalidad", 721}, 30, &A2::Nacionalidad, 1},
     {u"txtFormaJuridica", {u"lblFormaJuridica", 724}, 40, &A2::FormaJuridica, 2},
