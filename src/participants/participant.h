@@ -51,8 +51,7 @@ class cParticipes;
 struct Participantes {
     /// Those of the open declaration, deleted ones included until the save.
     std::vector<std::shared_ptr<cParticipes>> colParticipes;
-    std::shared_ptr<cParticipes> ParticipeActual;     ///< the one being worked on
-    std::shared_ptr<cParticipes> ParticipeImpresion;  ///< loop variable of printing
+    std::shared_ptr<cParticipes> ParticipeActual;  ///< the one being worked on
 };
 
 class cParticipes : public DatosParticipe {

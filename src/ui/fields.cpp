@@ -91,6 +91,11 @@ void DesbloquearCampo(QLineEdit* campo) {
 
 bool EstaBloqueado(const QLineEdit* campo) { return campo->isReadOnly(); }
 
+int AnchoDe(const QWidget* campo, int caracteres, QChar muestra) {
+    constexpr int Marco = 16;  // frame and margins, in pixels
+    return campo->fontMetrics().horizontalAdvance(QString(caracteres, muestra)) + Marco;
+}
+
 void SeleccionarTexto(QLineEdit* campo) { campo->selectAll(); }
 
 void MostrarEtiqueta(QLabel* etiqueta, const QString& texto) {
@@ -142,6 +147,12 @@ QLabel* Encabezado(const QString& nombre, QWidget* padre) {
     fuente.setBold(true);
     etiqueta->setFont(fuente);
     return etiqueta;
+}
+
+QFrame* Panel(QWidget* padre) {
+    auto* marco = new QFrame(padre);
+    marco->setFrameShape(QFrame::StyledPanel);
+    return marco;
 }
 
 }  // namespace padral

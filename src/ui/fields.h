@@ -57,6 +57,9 @@ void BloquearCampo(QLineEdit* campo);
 /// Tab stop, editable, the field's normal colours.
 void DesbloquearCampo(QLineEdit* campo);
 bool EstaBloqueado(const QLineEdit* campo);
+/// The width of a field for so many characters of its font, so that it follows font and scale.
+/// `muestra` stands for them all: digits, or capitals that are the widest.
+int AnchoDe(const QWidget* campo, int caracteres, QChar muestra = u'0');
 /// Selects the whole text.
 void SeleccionarTexto(QLineEdit* campo);
 /// With text: caption and shown; without: hidden, the caption stays.
@@ -97,5 +100,7 @@ private:
 QLabel* Etiqueta(const QString& nombre, QWidget* padre);
 /// A label in bold, the heading of a panel.
 QLabel* Encabezado(const QString& nombre, QWidget* padre);
+/// A frame round controls that go together.
+QFrame* Panel(QWidget* padre);
 
 }  // namespace padral

@@ -18,11 +18,6 @@ constexpr int TrasElTitulo = 12, EntreFilas = 10, EntreColumnas = 18;
 
 constexpr auto BotonesAlPie = BotonesHabituales(15);
 
-/// Width in characters of the font, so that it follows font and scale.
-void fijarAncho(QWidget* campo, int caracteres) {
-    campo->setFixedWidth(campo->fontMetrics().horizontalAdvance(QString(caracteres, u'0')) + 14);
-}
-
 }  // namespace
 
 frmApartado6::frmApartado6(const Contexto& contexto, cDeclaraciones& declaracion)
@@ -34,9 +29,9 @@ frmApartado6::frmApartado6(const Contexto& contexto, cDeclaraciones& declaracion
       txtSinEpigrafe_(new CampoTexto(QStringLiteral("txtSinEpigrafe"), AnchoDescripcion, this)),
       txtInscripcion_(new CampoFecha(QStringLiteral("txtInscripcion"), this)) {
     BloquearCampo(txtCausa_);
-    fijarAncho(txtFecha_, AnchoFecha);
-    fijarAncho(txtCausa_, AnchoCodigo);
-    fijarAncho(txtInscripcion_, AnchoFecha);
+    txtFecha_->setFixedWidth(AnchoDe(txtFecha_, AnchoFecha));
+    txtCausa_->setFixedWidth(AnchoDe(txtCausa_, AnchoCodigo));
+    txtInscripcion_->setFixedWidth(AnchoDe(txtInscripcion_, AnchoFecha));
     auto* todo = new QVBoxLayout(this);
     auto* titulo = Encabezado(QStringLiteral("lblTituloPantalla"), this);
     etiquetas_.emplace_back(titulo, TituloPantalla);

@@ -24,17 +24,6 @@ enum : int {
     TextoTarjeta = 400,
 };
 
-QFrame* panel(QWidget* padre) {
-    auto* marco = new QFrame(padre);
-    marco->setFrameShape(QFrame::StyledPanel);
-    return marco;
-}
-
-/// Width in characters of the font, so that it follows font and scale.
-void anchoCaracteres(QWidget* campo, int caracteres) {
-    campo->setMinimumWidth(campo->fontMetrics().horizontalAdvance(QString(caracteres, u'0')) + 14);
-}
-
 /// A caption above its field.
 QBoxLayout* columna(QLabel* etiqueta, QWidget* campo) {
     auto* caja = new QVBoxLayout;
@@ -52,7 +41,7 @@ CampoTexto* FrmDatGen::texto(const QString& nombre, int ancho) {
 
 CampoFecha* FrmDatGen::fecha(const QString& nombre) {
     auto* campo = new CampoFecha(nombre, this);
-    anchoCaracteres(campo, 11);
+    campo->setMinimumWidth(AnchoDe(campo, 11));
     return campo;
 }
 
@@ -86,13 +75,13 @@ FrmDatGen::FrmDatGen(const Contexto& contexto, cDeclaraciones& declaracion, cDec
 }
 
 QWidget* FrmDatGen::crearIdentificacion() {
-    auto* marco = panel(this);
+    auto* marco = Panel(this);
     auto* fila = new QHBoxLayout(marco);
     txtDNI_ = texto(QStringLiteral("txtDNI"), AnchoNif);
-    anchoCaracteres(txtDNI_, AnchoNif + 2);
+    txtDNI_->setMinimumWidth(AnchoDe(txtDNI_, AnchoNif + 2));
     txtNombre_ = texto(QStringLiteral("txtNombre"), AnchoNombre);
     txtNumeroArchivo_ = texto(QStringLiteral("txtNumeroArchivo"), AnchoReferencia);
-    anchoCaracteres(txtNumeroArchivo_, AnchoReferencia + 4);
+    txtNumeroArchivo_->setMinimumWidth(AnchoDe(txtNumeroArchivo_, AnchoReferencia + 4));
     mskFechaDeclaracion_ = fecha(QStringLiteral("mskFechaDeclaracion"));
     const auto anadir = [&](const char16_t* nombre, QWidget* campo, int id, int estira) {
         auto* etiqueta = etiquetaDe(QString::fromUtf16(nombre), campo);
@@ -107,7 +96,7 @@ QWidget* FrmDatGen::crearIdentificacion() {
 }
 
 QWidget* FrmDatGen::crearTipos() {
-    auto* marco = panel(this);
+    auto* marco = Panel(this);
     auto* caja = new QVBoxLayout(marco);
     auto* grupo = Encabezado(QStringLiteral("lblTexto1"), marco);
     auto* cabeza = Etiqueta(QStringLiteral("lblTexto2"), marco);
@@ -185,7 +174,7 @@ QWidget* FrmDatGen::crearModificacion() {
     txtDNIAnterior_ = texto(QStringLiteral("txtDNIAnterior"), AnchoNif);
     txtNombreAnterior_ = texto(QStringLiteral("txtNombreAnterior"), AnchoNombre);
     cmbMotivoCambio_ = new CajaCombo(QStringLiteral("cmbMotivoCambio"), 30, fraModificacion_);
-    anchoCaracteres(txtDNIAnterior_, AnchoNif + 2);
+    txtDNIAnterior_->setMinimumWidth(AnchoDe(txtDNIAnterior_, AnchoNif + 2));
     txtDNIAnterior_->setSizePolicy(QSizePolicy::Maximum, QSizePolicy::Fixed);
     const auto anadir = [&](const char16_t* nombre, QWidget* campo, int id) {
         auto* etiqueta = etiquetaDe(QString::fromUtf16(nombre), campo);
@@ -201,7 +190,7 @@ QWidget* FrmDatGen::crearModificacion() {
 }
 
 QWidget* FrmDatGen::crearPestana() {
-    auto* marco = panel(this);
+    auto* marco = Panel(this);
     auto* caja = new QVBoxLayout(marco);
     pestana_ = new QTabBar(marco);
     pestana_->setObjectName(QStringLiteral("Pestaña"));
@@ -221,7 +210,7 @@ QWidget* FrmDatGen::crearPestana() {
 }
 
 QWidget* FrmDatGen::crearApartados() {
-    auto* marco = panel(this);
+    auto* marco = Panel(this);
     auto* rejilla = new QGridLayout(marco);
     auto* cabeza = Encabezado(QStringLiteral("lblApartados"), marco);
     etiquetas_.emplace_back(cabeza, TextoApartados);
@@ -243,7 +232,7 @@ QWidget* FrmDatGen::crearApartados() {
 }
 
 QWidget* FrmDatGen::crearFirma() {
-    auto* marco = panel(this);
+    auto* marco = Panel(this);
     auto* rejilla = new QGridLayout(marco);
     auto* cabeza = Encabezado(QStringLiteral("lblFirma"), marco);
     etiquetas_.emplace_back(cabeza, TextoFirma);
@@ -252,7 +241,7 @@ QWidget* FrmDatGen::crearFirma() {
     auto* elMismo = new EtiquetaCasilla(QStringLiteral("lblElMismo"), chkElMismo_, marco);
     etiquetas_.emplace_back(elMismo, 429);
     txtDNIRepresentante_ = texto(QStringLiteral("txtDNIRepresentante"), AnchoNif);
-    anchoCaracteres(txtDNIRepresentante_, AnchoNif + 2);
+    txtDNIRepresentante_->setMinimumWidth(AnchoDe(txtDNIRepresentante_, AnchoNif + 2));
     txtNombreRepresentante_ = texto(QStringLiteral("txtNombreRepresentante"), AnchoNombre);
     txtFirmaEnCalidadDe_ = texto(QStringLiteral("txtFirmaEnCalidadDe"), AnchoNombre);
     auto* marca = new QHBoxLayout;

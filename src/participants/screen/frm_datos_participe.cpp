@@ -22,17 +22,6 @@ constexpr int AnchoDNI = 9, AnchoNombre = 30, EnterosPorcentaje = 3, AnchoPorcen
 constexpr std::size_t BotonesAlPrincipio = 2;
 constexpr int EntreFilas = 8, EntreColumnas = 18, EntreBloques = 48, JuntoAlCampo = 8;
 
-/// Width in characters of the font, so that it follows font and scale.
-int anchoDe(const QWidget* campo, int caracteres) {
-    return campo->fontMetrics().horizontalAdvance(QString(caracteres, u'0')) + 16;
-}
-
-QFrame* panel(QWidget* padre) {
-    auto* marco = new QFrame(padre);
-    marco->setFrameShape(QFrame::StyledPanel);
-    return marco;
-}
-
 /// A caption above its field.
 QBoxLayout* sobre(QLabel* etiqueta, QWidget* campo) {
     etiqueta->setBuddy(campo);
@@ -68,13 +57,13 @@ QLabel* frmDatosParticipe::etiquetaDe(const Rotulo& rotulo, QWidget* padre) {
 }
 
 QWidget* frmDatosParticipe::crearPersona() {
-    auto* marco = panel(this);
+    auto* marco = Panel(this);
     auto* caja = new QVBoxLayout(marco);
     caja->setSpacing(EntreFilas);
     txtDNI_ = new CampoTexto(QStringLiteral("txtDNI"), AnchoDNI, marco);
     txtNombre_ = new CampoTexto(QStringLiteral("txtNombre"), AnchoNombre, marco);
-    txtDNI_->setFixedWidth(anchoDe(txtDNI_, AnchoDNI + 2));
-    txtNombre_->setFixedWidth(anchoDe(txtNombre_, AnchoNombre + 10));
+    txtDNI_->setFixedWidth(AnchoDe(txtDNI_, AnchoDNI + 2));
+    txtNombre_->setFixedWidth(AnchoDe(txtNombre_, AnchoNombre + 10));
     auto* linea = new QHBoxLayout;
     linea->setSpacing(EntreColumnas);
     linea->addLayout(sobre(etiquetaDe(RotuloDNI, marco), txtDNI_));
@@ -97,12 +86,12 @@ void frmDatosParticipe::crearDireccion(QWidget* marco) {
 }
 
 QWidget* frmDatosParticipe::crearParticipacion() {
-    auto* marco = panel(this);
+    auto* marco = Panel(this);
     auto* caja = new QVBoxLayout(marco);
     caja->setSpacing(EntreFilas);
     txtPorcentaje_ = new CajaNum(QStringLiteral("txtPorcentaje"), EnterosPorcentaje,
                                  QStringLiteral("##0.00"), marco);
-    txtPorcentaje_->setFixedWidth(anchoDe(txtPorcentaje_, AnchoPorcentaje));
+    txtPorcentaje_->setFixedWidth(AnchoDe(txtPorcentaje_, AnchoPorcentaje));
     auto* etiqueta = etiquetaDe(RotuloPorcentaje, marco);
     etiqueta->setBuddy(txtPorcentaje_);
     auto* linea = new QHBoxLayout;

@@ -16,14 +16,7 @@ constexpr int EntreGrupos = 10;
 constexpr int DentroDelGrupo = 4;
 /// Up to here an entry is a code. Codes of capital letters are the widest, and all are alike.
 constexpr int AnchoDeCodigo = 3;
-constexpr int MargenCampo = 16;
 constexpr QRgb GrisApagado = 0xFFE0E0E0;
-
-/// Width in characters of the font, so that it follows font and scale.
-int anchoDe(const QWidget* campo, const FilaDireccion& fila) {
-    const QString muestra(fila.ancho, fila.ancho <= AnchoDeCodigo ? u'M' : u'0');
-    return campo->fontMetrics().horizontalAdvance(muestra) + MargenCampo;
-}
 
 }  // namespace
 
@@ -73,7 +66,7 @@ void PanelDireccion::crearCampo(std::size_t i) {
     else
         entrada.texto = new CampoTexto(nombre, fila.ancho, this);
     QLineEdit* campo = Campo(static_cast<Dato>(i));
-    const int ancho = anchoDe(campo, fila);
+    const int ancho = AnchoDe(campo, fila.ancho, fila.ancho <= AnchoDeCodigo ? u'M' : u'0');
     campo->setMinimumWidth(ancho);
     // Codes and numbers keep their width; names share what the window leaves.
     if (fila.formato || fila.ancho <= AnchoDeCodigo) campo->setMaximumWidth(ancho);

@@ -49,8 +49,7 @@ FrmApartado2::~FrmApartado2() {
 }
 
 QWidget* FrmApartado2::crearDomicilio(std::size_t i) {
-    auto* marco = new QFrame(this);
-    marco->setFrameShape(QFrame::StyledPanel);
+    auto* marco = Panel(this);
     auto* caja = new QVBoxLayout(marco);
     caja->setContentsMargins(MargenPanel, MargenPanel, MargenPanel, MargenPanel);
     caja->setSpacing(EntreTituloYCampos);

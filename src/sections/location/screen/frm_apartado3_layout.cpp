@@ -22,17 +22,6 @@ constexpr int AnchoSinEpigrafe = 30;
 constexpr int AnchoForma = 20;
 constexpr int AnchoAnagrama = 20;
 
-QFrame* panel(QWidget* padre) {
-    auto* marco = new QFrame(padre);
-    marco->setFrameShape(QFrame::StyledPanel);
-    return marco;
-}
-
-/// Width in characters of the font, so that it follows font and scale.
-void fijarAncho(QWidget* campo, int caracteres) {
-    campo->setFixedWidth(campo->fontMetrics().horizontalAdvance(QString(caracteres, u'0')) + 14);
-}
-
 bool deAnchoFijo(const QWidget* campo) { return campo->maximumWidth() < QWIDGETSIZE_MAX; }
 
 }  // namespace
@@ -123,29 +112,29 @@ QBoxLayout* FrmApartado3::filaOpciones() {
 }
 
 QWidget* FrmApartado3::crearResidencia() {
-    auto* marco = panel(this);
+    auto* marco = Panel(this);
     auto* rejilla = new QGridLayout(marco);
     auto* opciones = filaOpciones();
     rejilla->addWidget(etiquetaDe(u"lblResidente", 139, optResidente_[0]), 0, 0);
     rejilla->addLayout(opciones, 0, 1, Qt::AlignLeft);
     numPorcenIVA_ = new CajaNum(QStringLiteral("numPorcenIVA"), 3, QStringLiteral("###"), marco);
     rejilla->addWidget(etiquetaDe(u"lblPorcenIVA", 149, numPorcenIVA_), 1, 0);
-    fijarAncho(numPorcenIVA_, 5);
+    numPorcenIVA_->setFixedWidth(AnchoDe(numPorcenIVA_, 5));
     rejilla->addWidget(numPorcenIVA_, 1, 1, Qt::AlignLeft);
     rejilla->setColumnStretch(0, 1);
     return marco;
 }
 
 QWidget* FrmApartado3::crearActividad() {
-    auto* marco = panel(this);
+    auto* marco = Panel(this);
     auto* caja = new QVBoxLayout(marco);
     mskFechaInicio_ = new CampoFecha(QStringLiteral("mskFechaInicio"), marco);
     txtDescripcionActividad_ =
         new CampoTexto(QStringLiteral("txtDescripcionActividad"), AnchoCodigo, marco);
     cmbEpigrafe_ = new CajaCombo(QStringLiteral("cmbEpigrafe"), 12, marco);
     txtSinEpigrafe_ = new CampoTexto(QStringLiteral("txtSinEpigrafe"), AnchoSinEpigrafe, marco);
-    fijarAncho(mskFechaInicio_, 11);
-    fijarAncho(txtDescripcionActividad_, AnchoCodigo + 2);
+    mskFechaInicio_->setFixedWidth(AnchoDe(mskFechaInicio_, 11));
+    txtDescripcionActividad_->setFixedWidth(AnchoDe(txtDescripcionActividad_, AnchoCodigo + 2));
     auto* arriba = new QGridLayout;
     rotular(arriba, u"lblFechaInicio", 148, mskFechaInicio_);
     rotular(arriba, u"lblEpigrafe", 146, txtDescripcionActividad_);
@@ -162,12 +151,12 @@ QWidget* FrmApartado3::crearActividad() {
 }
 
 QWidget* FrmApartado3::crearForma() {
-    auto* marco = panel(this);
+    auto* marco = Panel(this);
     auto* caja = new QVBoxLayout(marco);
     numFormaJuridica_ =
         new CajaNum(QStringLiteral("numFormaJuridica"), 2, QStringLiteral("##"), marco);
     BloquearCampo(numFormaJuridica_);
-    fijarAncho(numFormaJuridica_, 4);
+    numFormaJuridica_->setFixedWidth(AnchoDe(numFormaJuridica_, 4));
     cmbDescFormaJuridica_ = new CajaCombo(QStringLiteral("cmbDescFormaJuridica"), 12, marco);
     txtOtros_ = new CampoTexto(QStringLiteral("txtOtros"), AnchoForma, marco);
     auto* forma = new QGridLayout;
@@ -177,7 +166,7 @@ QWidget* FrmApartado3::crearForma() {
     forma->addWidget(txtOtros_, 1, 1);
     txtAnagrama_ = new CampoTexto(QStringLiteral("txtAnagrama"), AnchoAnagrama, marco);
     mskFechaCierre_ = new CampoFecha(QStringLiteral("mskFechaCierre"), marco);
-    fijarAncho(mskFechaCierre_, 7);
+    mskFechaCierre_->setFixedWidth(AnchoDe(mskFechaCierre_, 7));
     chkSocPat_ = casilla(u"chkSocPat", marco);
     auto* resto = new QGridLayout;
     rotular(resto, u"lblAnagrama", 141, txtAnagrama_);

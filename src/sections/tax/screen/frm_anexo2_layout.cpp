@@ -22,16 +22,10 @@ constexpr int NumeroAnexoII = 10;
 constexpr int TituloPantalla = 705;
 constexpr int EntreFilas = 8, EntreColumnas = 12, EntreMitades = 14;
 constexpr int DentroDelGrupo = 4, BajoElRotulo = 1, TrasElTitulo = 4;
-constexpr int MargenCampo = 16;
 /// A text shows at least this many characters, however narrow the window.
 constexpr int AnchoMinimo = 12;
 /// Up to here a text keeps its width; longer ones share what the window leaves.
 constexpr int AnchoFijo = 9;
-
-/// Width in characters of the font, so that it follows font and scale.
-int anchoDe(const QWidget* campo, int caracteres, QChar muestra = u'0') {
-    return campo->fontMetrics().horizontalAdvance(QString(caracteres, muestra)) + MargenCampo;
-}
 
 QHBoxLayout* nuevaLinea(QVBoxLayout* caja) {
     auto* linea = new QHBoxLayout;
@@ -90,7 +84,7 @@ CampoTexto* frmAnexoII::crearCampo(const Campo& fila, QWidget* padre) {
     auto* campo = new CampoTexto(QString::fromUtf16(fila.control), fila.ancho, padre);
     const bool fijo = fila.ancho <= AnchoFijo;
     // What keeps its width is an identifier, where capital letters may stand.
-    campo->setMinimumWidth(fijo ? anchoDe(campo, fila.ancho, u'M') : anchoDe(campo, AnchoMinimo));
+    campo->setMinimumWidth(fijo ? AnchoDe(campo, fila.ancho, u'M') : AnchoDe(campo, AnchoMinimo));
     if (fijo) campo->setMaximumWidth(campo->minimumWidth());
     textos_.emplace_back(campo, fila.propiedad);
     return campo;
@@ -128,7 +122,7 @@ QVBoxLayout* frmAnexoII::crearCodigo(std::size_t i, QWidget* padre) {
     const Codigo& codigo = Codigos[i];
     codigos_[i] = new CajaNum(QString::fromUtf16(codigo.control), codigo.cifras,
                               QString::fromUtf16(codigo.formato), padre);
-    codigos_[i]->setFixedWidth(anchoDe(codigos_[i], codigo.cifras + 1));
+    codigos_[i]->setFixedWidth(AnchoDe(codigos_[i], codigo.cifras + 1));
     auto* boton = botonesLista_[i] = new BotonLista(QString::fromUtf16(codigo.boton), padre);
     listas_[i] = new ListaEleccion(QString::fromUtf16(codigo.lista), this);
     nombres_[i] = crearCampo(codigo.nombre, padre);

@@ -22,8 +22,7 @@ constexpr int CifrasPorcentaje = 3;
 }  // namespace
 
 QWidget* frmAnexoII::crearPreguntas() {
-    auto* marco = new QFrame(this);
-    marco->setFrameShape(QFrame::StyledPanel);
+    auto* marco = Panel(this);
     auto* rejilla = new QGridLayout(marco);
     rejilla->setVerticalSpacing(EntrePreguntas);
     rejilla->setHorizontalSpacing(EntreRespuestas);

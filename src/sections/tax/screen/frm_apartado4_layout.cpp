@@ -25,11 +25,6 @@ constexpr int EntreFilas = 6, EntreColumnas = 18, JuntoAlCampo = 6, TrasElTitulo
 /// Shares of the width: the answers stay near the question.
 constexpr int Ancho[Columnas] = {4, 1, 1, 1};
 
-/// Width in characters of the font, so that it follows font and scale.
-int anchoDe(const QWidget* campo, int caracteres) {
-    return campo->fontMetrics().horizontalAdvance(QString(caracteres, u'0')) + 14;
-}
-
 QFrame* raya(QWidget* padre) {
     auto* linea = new QFrame(padre);
     linea->setFrameShape(QFrame::HLine);
@@ -126,8 +121,8 @@ void frmApartado4::crearFila(const Solicitud& solicitud, const Cabecera& cabecer
 void frmApartado4::crearEntidad(QGridLayout* rejilla) {
     txtNIF_ = new CampoTexto(QStringLiteral("txtNIF"), AnchoNif, this);
     txtNombre_ = new CampoTexto(QStringLiteral("txtNombre"), AnchoNombre, this);
-    txtNIF_->setFixedWidth(anchoDe(txtNIF_, AnchoNif + 2));
-    txtNombre_->setMaximumWidth(anchoDe(txtNombre_, AnchoNombre + 8));
+    txtNIF_->setFixedWidth(AnchoDe(txtNIF_, AnchoNif + 2));
+    txtNombre_->setMaximumWidth(AnchoDe(txtNombre_, AnchoNombre + 8));
     auto* linea = new QHBoxLayout;
     linea->addSpacing(EntreColumnas);
     for (const auto& [rotulo, campo] :

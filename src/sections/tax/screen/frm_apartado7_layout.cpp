@@ -124,8 +124,7 @@ void FrmApartado7::crearEstado(const FilaEstado& estado, QGridLayout* rejilla, i
 }
 
 QWidget* FrmApartado7::crearSujetos() {
-    auto* panel = new QFrame(this);
-    panel->setFrameShape(QFrame::StyledPanel);
+    auto* panel = Panel(this);
     auto* rejilla = new QGridLayout(panel);
     rejilla->setContentsMargins(MargenSujetos, MargenSujetos, MargenSujetos, MargenSujetos);
     rejilla->setHorizontalSpacing(EntreColumnas);
