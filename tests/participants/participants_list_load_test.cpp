@@ -1,5 +1,7 @@
 // Entering the participants list: rows, counts, the current row, words.
 
+#include <SQLiteCpp/SQLiteCpp.h>
+
 #include "participants/participants_list_fixture.h"
 
 namespace padral::pruebas {
@@ -114,11 +116,30 @@ TEST_F(CargaLista, LaCopiaAuxiliarVaConLaDeclaracion) {
     tres();
     abrir();
     EXPECT_EQ(guardados(0), q(u"3")) << "a new declaration has key 0";
+    cerrar();
+    EXPECT_EQ(guardados(0), q(u"0")) << "what is not saved stays nowhere";
     d.csde = 12;
     d.participantes.colParticipes.pop_back();
     abrir();
     EXPECT_EQ(guardados(12), q(u"2"));
-    EXPECT_EQ(guardados(0), q(u"3"));
+    EXPECT_EQ(guardados(0), q(u"0"));
+    cerrar();
+    EXPECT_EQ(guardados(12), q(u"0"));
+}
+
+// Another program holds the file while the screen goes: nothing is told and nothing is waited for.
+TEST_F(CargaLista, LaCopiaAuxiliarQueNoSePuedeQuitarSeQueda) {
+    tres();
+    abrir();
+    {
+        SQLite::Database otro(estado.RutaBDModificacion.toStdString(), SQLite::OPEN_READWRITE);
+        const SQLite::Transaction ocupado(otro, SQLite::TransactionBehavior::EXCLUSIVE);
+        EXPECT_NO_THROW(cerrar());
+    }
+    avisos.Verificar();
+    tres();
+    abrir();
+    EXPECT_EQ(l.NUMPARTLIST, 6);
 }
 
 TEST_F(CargaLista, LaFilaTomadaEntraEnElRegistro) {

@@ -26,6 +26,19 @@ SvrVuelco::cDeclaSvr servidor(const EstadoCompartido& estado) {
 
 }  // namespace
 
+// What was not saved leaves no trace in the file. Nothing hangs on it, so a file that is busy or
+// fails is left alone: the next list replaces these rows.
+frmListaParticipes::~frmListaParticipes() {
+    if (!auxiliar_) return;
+    auto auxiliar = servidor(estado_);
+    auxiliar.busyTimeout = 0;
+    try {
+        auxiliar.InsertarParticipes(*auxiliar_, {});
+    } catch (const std::exception& fallo) {
+        qWarning("The auxiliary list of participants stays: %s", fallo.what());
+    }
+}
+
 void frmListaParticipes::Cargar() {
     Anadir_captions();
     lista_.InicializarListaParticipes();
@@ -51,7 +64,8 @@ void frmListaParticipes::CargarflxParticipes() {
 
 void frmListaParticipes::CargarflxParticipesAux() {
     const auto auxiliar = servidor(estado_);
-    auxiliar.InsertarParticipes(declaracion_.csde, filasDeColeccion());
+    auxiliar_ = declaracion_.csde;
+    auxiliar.InsertarParticipes(*auxiliar_, filasDeColeccion());
     Tabla filas;
     const QString cuantas =
         auxiliar.DameParticipesAux(declaracion_.csde, ObtenerCriterios(), filas,

@@ -1,6 +1,8 @@
 #pragma once
 // The participants list of Annex I: participants are found, shown, added and deleted here.
 
+#include <optional>
+
 #include "declaration/declaration.h"
 #include "participants/screen/frm_lista_participes_model.h"
 #include "store/participants_server.h"
@@ -10,12 +12,13 @@ namespace padral {
 
 class BotonesApartado;
 
-/// Works on the participants of the open declaration in memory; the store keeps only the auxiliary
-/// copy that is sorted and searched.
+/// Works on the participants of the open declaration in memory; the store has the auxiliary copy
+/// that is sorted and searched, for as long as the screen is there.
 class frmListaParticipes : public PantallaConLista {
     Q_OBJECT
 public:
     frmListaParticipes(const Contexto& contexto, cDeclaraciones& declaracion);
+    ~frmListaParticipes() override;
 
     void Anadir_captions() override;
     void Cargar() override;
@@ -82,6 +85,7 @@ private:
     cDeclaraciones& declaracion_;
     cParLista& lista_;
     ModeloParticipes* modelo_;
+    std::optional<qint32> auxiliar_;  ///< the declaration whose auxiliary list is filled
     BotonesApartado *salidas_, *acciones_;
     QPushButton *cmdBuscar_, *cmdTodos_;
 };
