@@ -3,12 +3,23 @@
 #include <QAbstractItemView>
 #include <QCoreApplication>
 #include <QEvent>
+#include <QHelpEvent>
 #include <QKeyEvent>
 #include <QScrollBar>
 #include <QStyle>
+#include <QStyleOptionComboBox>
+#include <QStylePainter>
+#include <QToolTip>
 #include <QWheelEvent>
 
 namespace padral {
+
+namespace {
+
+/// The style keeps it free on both sides of the text.
+constexpr int MargenDelTexto = 1;
+
+}  // namespace
 
 CajaCombo::CajaCombo(const QString& nombre, int caracteres, QWidget* padre) : QComboBox(padre) {
     setObjectName(nombre);
@@ -56,6 +67,33 @@ void CajaCombo::keyPressEvent(QKeyEvent* evento) {
     if (alPulsarIntro) alPulsarIntro();
     QKeyEvent tab(QEvent::KeyPress, Qt::Key_Tab, Qt::NoModifier);
     QCoreApplication::sendEvent(this, &tab);
+}
+
+QString CajaCombo::TextoVisible() const {
+    QStyleOptionComboBox opciones;
+    initStyleOption(&opciones);
+    const QRect campo =
+        style()->subControlRect(QStyle::CC_ComboBox, &opciones, QStyle::SC_ComboBoxEditField, this);
+    return fontMetrics().elidedText(currentText(), Qt::ElideRight,
+                                    campo.width() - 2 * MargenDelTexto);
+}
+
+// As the base draws itself, but for a choice that does not fit.
+void CajaCombo::paintEvent(QPaintEvent*) {
+    QStylePainter pincel(this);
+    pincel.setPen(palette().color(QPalette::Text));
+    QStyleOptionComboBox opciones;
+    initStyleOption(&opciones);
+    pincel.drawComplexControl(QStyle::CC_ComboBox, opciones);
+    opciones.currentText = TextoVisible();
+    pincel.drawControl(QStyle::CE_ComboBoxLabel, opciones);
+}
+
+bool CajaCombo::event(QEvent* evento) {
+    if (evento->type() != QEvent::ToolTip || TextoVisible() == currentText())
+        return QComboBox::event(evento);
+    QToolTip::showText(static_cast<QHelpEvent*>(evento)->globalPos(), currentText(), this);
+    return true;
 }
 
 void CajaCombo::wheelEvent(QWheelEvent* evento) { evento->ignore(); }

@@ -3,8 +3,10 @@
 #include <gtest/gtest.h>
 
 #include <QAbstractItemView>
+#include <QHelpEvent>
 #include <QLineEdit>
 #include <QTest>
+#include <QToolTip>
 #include <QVBoxLayout>
 #include <QWheelEvent>
 
@@ -45,6 +47,33 @@ TEST_F(Combo, TheListGrowsWithTheLetters) {
     grande.setPointSizeF(grande.pointSizeF() * 3);
     combo->setFont(grande);
     EXPECT_GT(combo->view()->minimumWidth(), antes);
+}
+
+TEST_F(Combo, AChoiceThatDoesNotFitEndsInDotsAndTheToolTipTellsItWhole) {
+    const QString larga = QStringLiteral("REPARACION DE AUTOMOVILES Y OTROS VEHICULOS");
+    combo->addItem(larga);
+    combo->setFixedWidth(150);
+    QCoreApplication::processEvents();
+    const auto avisar = [this] {
+        QToolTip::hideText();
+        QHelpEvent ayuda(QEvent::ToolTip, QPoint(5, 5), combo->mapToGlobal(QPoint(5, 5)));
+        QCoreApplication::sendEvent(combo, &ayuda);
+        return QToolTip::text();
+    };
+    combo->setCurrentIndex(0);
+    EXPECT_EQ(combo->TextoVisible(), QStringLiteral("UNO"));
+    EXPECT_EQ(avisar(), QString());
+    const QImage corta = combo->grab().toImage();
+    combo->setCurrentIndex(2);
+    EXPECT_TRUE(combo->TextoVisible().endsWith(u'…'));
+    EXPECT_TRUE(larga.startsWith(combo->TextoVisible().chopped(1)));
+    EXPECT_EQ(avisar(), larga);
+    // What it draws is that and no more: the same picture as of a row that reads so.
+    const QImage dibujada = combo->grab().toImage();
+    EXPECT_NE(dibujada, corta);
+    combo->setItemText(2, combo->TextoVisible());
+    EXPECT_EQ(combo->grab().toImage(), dibujada);
+    QToolTip::hideText();
 }
 
 TEST_F(Combo, EnterActsAndMovesOn) {
